@@ -1,0 +1,176 @@
+#include "support/text.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <string_view>
+#include <system_error>
+
+namespace btz {
+
+namespace {
+
+const char* SkipSpace(const char* text) {
+  while (IsSpace(*text)) {
+    ++text;
+  }
+  return text;
+}
+
+const char* SkipDigits(const char* text) {
+  while (IsDigit(*text)) {
+    ++text;
+  }
+  return text;
+}
+
+/// End of the exponent that starts at `text`, or `text` itself when there is none.
+const char* SkipExponent(const char* text) {
+  if (*text != 'E' && *text != 'e') {
+    return text;
+  }
+  const char* digits = text + (text[1] == '+' || text[1] == '-' ? 2 : 1);
+  const char* end = SkipDigits(digits);
+  return end == digits ? text : end;
+}
+
+/// Whether the number of the correctly formed text from `first` is too large rather than too small: its first non-zero digit stands before
+/// the place that the exponent shifts to the point. Only asked when the conversion says that it is out of range.
+bool IsHuge(const char* first, const char* end) {
+  const std::string_view number(first, static_cast<std::size_t>(end - first));
+  const std::size_t mark = number.find_first_of("Ee");
+  return mark == std::string_view::npos || number[mark + 1] != '-';
+}
+
+template <typename Character>
+void FormatNumberedInto(Character* dest, std::size_t capacity, const char* prefix, std::int32_t number) {
+  char digits[12];
+  const std::to_chars_result result = std::to_chars(digits, digits + sizeof(digits), number);
+  std::size_t length = 0;
+  const auto append = [&](const char* from, const char* to) {
+    for (; from != to && length + 1 < capacity; ++from) {
+      dest[length++] = static_cast<Character>(static_cast<unsigned char>(*from));
+    }
+  };
+  append(prefix, prefix + std::strlen(prefix));
+  append(digits, result.ptr);
+  dest[length] = 0;
+}
+
+}  // namespace
+
+std::int32_t ParseInteger(const char* text) {
+  return text == nullptr ? 0 : ParseInteger(text, std::strlen(text));
+}
+
+std::int32_t ParseInteger(const char* text, std::size_t length) {
+  const char* end = text + length;
+  while (text != end && IsSpace(*text)) {
+    ++text;
+  }
+  const bool negative = text != end && *text == '-';
+  if (text != end && (*text == '-' || *text == '+')) {
+    ++text;
+  }
+  std::uint32_t value = 0;
+  for (; text != end && IsDigit(*text); ++text) {
+    value = value * 10u + static_cast<std::uint32_t>(*text - '0');
+  }
+  return static_cast<std::int32_t>(negative ? 0u - value : value);
+}
+
+double ParseDecimal(const char* text) {
+  if (text == nullptr) {
+    return 0.0;
+  }
+  const char* first = SkipSpace(text);
+  const bool negative = *first == '-';
+  if (*first == '-' || *first == '+') {
+    ++first;
+  }
+  const char* end = SkipDigits(first);
+  bool hasDigits = end != first;
+  if (*end == '.') {
+    const char* fraction = end + 1;
+    end = SkipDigits(fraction);
+    hasDigits = hasDigits || end != fraction;
+  }
+  if (!hasDigits) {
+    return 0.0;
+  }
+  end = SkipExponent(end);
+  double value = 0.0;
+  if (std::from_chars(first, end, value).ec == std::errc::result_out_of_range) {
+    value = IsHuge(first, end) ? HUGE_VAL : 0.0;
+  }
+  return negative ? -value : value;
+}
+
+std::int32_t CompareNoCase(const char* a, const char* b) {
+  while (*a != 0 && ToLower(*a) == ToLower(*b)) {
+    ++a;
+    ++b;
+  }
+  return static_cast<unsigned char>(ToLower(*a)) - static_cast<unsigned char>(ToLower(*b));
+}
+
+std::int32_t StartsWithNoCase(const char* text, const char* prefix) {
+  if (text == nullptr || prefix == nullptr || *text == 0 || *prefix == 0) {
+    return -1;
+  }
+  const std::size_t length = std::strlen(prefix);
+  if (std::memchr(text, 0, length) != nullptr) {
+    return -2;
+  }
+  for (std::size_t i = 0; i < length; ++i) {
+    const int difference = static_cast<unsigned char>(ToLower(text[i])) - static_cast<unsigned char>(ToLower(prefix[i]));
+    if (difference != 0) {
+      return difference;
+    }
+  }
+  return 0;
+}
+
+const char* FindSubstringNoCase(const char* text, const char* needle) {
+  if (text == nullptr || needle == nullptr) {
+    return nullptr;
+  }
+  for (;; ++text) {
+    const char* a = text;
+    const char* b = needle;
+    while (*b != 0 && ToLower(*a) == ToLower(*b)) {
+      ++a;
+      ++b;
+    }
+    if (*b == 0) {
+      return text;
+    }
+    if (*text == 0) {
+      return nullptr;
+    }
+  }
+}
+
+void CopyText(char* dest, std::size_t capacity, const char* source) {
+  const std::size_t length = strnlen(source, capacity - 1);
+  std::memcpy(dest, source, length);
+  dest[length] = 0;
+}
+
+void Widen(wchar_t* dest, std::size_t capacity, const char* source) {
+  std::size_t length = 0;
+  for (; source[length] != 0 && length + 1 < capacity; ++length) {
+    dest[length] = static_cast<wchar_t>(static_cast<unsigned char>(source[length]));
+  }
+  dest[length] = 0;
+}
+
+void FormatNumbered(wchar_t* dest, std::size_t capacity, const char* prefix, std::int32_t number) {
+  FormatNumberedInto(dest, capacity, prefix, number);
+}
+
+void FormatNumbered(char* dest, std::size_t capacity, const char* prefix, std::int32_t number) {
+  FormatNumberedInto(dest, capacity, prefix, number);
+}
+
+}  // namespace btz
