@@ -1,0 +1,29 @@
+# Flags of all our own targets. They hold for the directories added after this file.
+
+# No fused multiply-add and no fast math anywhere: the same deck gives the same numbers on every platform.
+if(MSVC)
+  add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:/fp:precise;/utf-8;/W4>")
+  if(BTZ_DEVELOPER)
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:/WX>")
+  endif()
+  set(BTZ_LIBRARY_OPTIONS /GR- /D_HAS_EXCEPTIONS=0)
+else()
+  add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off;-Wall;-Wextra;-Wpedantic;-Wshadow>")
+  if(BTZ_DEVELOPER)
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Werror>")
+  endif()
+  # No path of the build machine gets into the library.
+  set(BTZ_LIBRARY_OPTIONS -fno-exceptions -fno-rtti "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
+endif()
+
+if(BTZ_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+  # The one check that needs the type information which the library does without.
+  list(APPEND BTZ_LIBRARY_OPTIONS -fno-sanitize=vptr)
+endif()
+
+if(BTZ_COVERAGE)
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
+endif()
