@@ -64,14 +64,12 @@ class WindowsPlatform final : public Platform {
 
   bool ReadEnvironment(const char* name, char* dest, std::size_t capacity) override {
     // Not getenv: it does not see what the host has set with SetEnvironmentVariable.
-    char value[1024] = {};
+    char value[32768] = {};  // The system's limit for one variable.
     SetLastError(ERROR_SUCCESS);
     const DWORD length = GetEnvironmentVariableA(name, value, sizeof(value));
     if (length == 0 && GetLastError() == ERROR_ENVVAR_NOT_FOUND) {
       return false;
     }
-    // Longer values can't be part of a path that opens anyway; they count as set and are cut.
-    value[sizeof(value) - 1] = 0;
     std::size_t i = 0;
     for (; value[i] != 0 && i + 1 < capacity; ++i) {
       dest[i] = value[i];
