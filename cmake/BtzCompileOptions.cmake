@@ -17,10 +17,10 @@ else()
 endif()
 
 if(BTZ_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
-  # The one check that needs the type information which the library does without.
-  list(APPEND BTZ_LIBRARY_OPTIONS -fno-sanitize=vptr)
+  # The vptr check needs type information, which the library's objects do without.
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr)
+  add_compile_options(${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(${sanitizers})
 endif()
 
 if(BTZ_COVERAGE)
