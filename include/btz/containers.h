@@ -66,21 +66,21 @@ using CompareFunction = std::int32_t (*)(const void* stored, const void* other);
 
 /// Chained hash table of record pointers. The records belong to the caller.
 struct HashTable {
-  HashCell* freeCells;         ///< Overflow cells released by deletion.
-  BlockPool pool;              ///< Source of overflow cells.
-  std::int32_t bucketCount;    ///< Always odd once created; 0 before.
-  std::int32_t reserved[2];    ///< Zero.
-  HashCell* buckets;           ///< Array of `bucketCount` cells, or null before creation.
-  void* userData;              ///< Second argument of every hash call.
+  HashCell* freeCells;           ///< Overflow cells released by deletion.
+  BlockPool pool;                ///< Source of overflow cells.
+  std::int32_t bucketCount;      ///< Always odd once created; 0 before.
+  std::int32_t reserved[2];      ///< Zero.
+  HashCell* buckets;             ///< Array of `bucketCount` cells, or null before creation.
+  void* userData;                ///< Second argument of every hash call.
   std::int32_t allowDuplicates;  ///< Non-zero: insertion skips the duplicate test.
-  HashFunction hash;           ///< Key of a record.
-  CompareFunction compare;     ///< Equality of two records of one key; null: equal keys are equal records.
-  std::int32_t count;          ///< Records held.
-  std::int32_t iteratorBucket;  ///< Bucket at which the iterator stands.
-  std::int32_t highestBucket;  ///< Upper bound for iteration; never below the highest used bucket.
-  HashCell* iteratorCell;      ///< Next cell that the iterator returns; null at the end.
-  AllocateFunction allocate;   ///< Source of the bucket array.
-  ReleaseFunction release;     ///< Takes the bucket array back.
+  HashFunction hash;             ///< Key of a record.
+  CompareFunction compare;       ///< Equality of two records of one key; null: equal keys are equal records.
+  std::int32_t count;            ///< Records held.
+  std::int32_t iteratorBucket;   ///< Bucket at which the iterator stands.
+  std::int32_t highestBucket;    ///< Upper bound for iteration; never below the highest used bucket.
+  HashCell* iteratorCell;        ///< Next cell that the iterator returns; null at the end.
+  AllocateFunction allocate;     ///< Source of the bucket array.
+  ReleaseFunction release;       ///< Takes the bucket array back.
 };
 
 }  // namespace btz

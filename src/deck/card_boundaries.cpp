@@ -4,9 +4,7 @@ namespace btz {
 
 namespace {
 
-bool BeginsWith(const char* text, const char* keyword) {
-  return std::strncmp(text, keyword, std::strlen(keyword)) == 0;
-}
+bool BeginsWith(const char* text, const char* keyword) { return std::strncmp(text, keyword, std::strlen(keyword)) == 0; }
 
 template <std::size_t count>
 bool BeginsWithAny(const char* text, const char* const (&keywords)[count]) {
@@ -21,8 +19,9 @@ bool BeginsWithAny(const char* text, const char* const (&keywords)[count]) {
 // The keywords that end a card, by first letter. Longer ones that begin with another of the list (SPC1, FREQ1, PBUSHT, PLOTEL3, the star
 // forms) are covered by it.
 constexpr const char* keywordsB[] = {"BEGIN"};
-constexpr const char* keywordsC[] = {"CTETRA", "CTRIA3", "CTRIA6", "CHEXA",  "CQUAD4", "CQUAD8", "CPENTA", "CBAR",   "CORD2R", "CORD2C",  "CBEAM",
-                                     "CGAP",   "CBUSH",  "CELAS",  "CQUADR", "CPYRA",  "CORD1C", "CGASK6", "CGASK8", "CGASK12", "CGASK16", "CORD1R"};
+constexpr const char* keywordsC[] = {"CTETRA", "CTRIA3", "CTRIA6", "CHEXA",   "CQUAD4",  "CQUAD8", "CPENTA", "CBAR",
+                                     "CORD2R", "CORD2C", "CBEAM",  "CGAP",    "CBUSH",   "CELAS",  "CQUADR", "CPYRA",
+                                     "CORD1C", "CGASK6", "CGASK8", "CGASK12", "CGASK16", "CORD1R"};
 constexpr const char* keywordsD[] = {"DLOAD", "DAREA"};
 constexpr const char* keywordsE[] = {"ELIST", "EIGRL"};
 constexpr const char* keywordsF[] = {"FREQ"};
@@ -82,9 +81,7 @@ bool IsContinuationMark(const char* text) {
   return false;
 }
 
-bool HasStar(const char* text) {
-  return text != nullptr && std::strchr(text, '*') != nullptr;
-}
+bool HasStar(const char* text) { return text != nullptr && std::strchr(text, '*') != nullptr; }
 
 bool IsCardKeyword(const char* text) {
   if (text == nullptr) {

@@ -45,7 +45,7 @@ enum class NumericTest { Integer, Decimal };
 
 /// How a reader's walk goes.
 struct FieldWalk {
-  std::int32_t width;   ///< 8 or 16 columns.
+  std::int32_t width;  ///< 8 or 16 columns.
   StopTest stop;
   NumericTest numeric;
 };

@@ -19,9 +19,7 @@ void EndText(DeckBuffer* buffer, std::size_t length) {
   buffer->filled = length;
 }
 
-bool IsContinuation(char first) {
-  return first == '+' || first == '*' || first == ' ' || first == 0;
-}
+bool IsContinuation(char first) { return first == '+' || first == '*' || first == ' ' || first == 0; }
 
 /// Bytes behind the last line feed that is followed by a new card; -1 when no line feed behind the block's first byte is.
 std::ptrdiff_t FindCardCut(const char* block, std::ptrdiff_t length) {
@@ -42,13 +40,9 @@ std::ptrdiff_t FindLineCut(const char* block, std::ptrdiff_t length) {
   return length - 1 - at;
 }
 
-const char* FreeDelimiters(bool splitAtBlank) {
-  return splitAtBlank ? ",=\t\v\a\b\n " : ",=\t\v\a\b\n";
-}
+const char* FreeDelimiters(bool splitAtBlank) { return splitAtBlank ? ",=\t\v\a\b\n " : ",=\t\v\a\b\n"; }
 
-bool IsDelimiter(char c, const char* delimiters) {
-  return c != 0 && std::strchr(delimiters, c) != nullptr;
-}
+bool IsDelimiter(char c, const char* delimiters) { return c != 0 && std::strchr(delimiters, c) != nullptr; }
 
 }  // namespace
 

@@ -8,9 +8,7 @@ namespace {
 enum class RealPart { Integer, Fraction, Exponent };
 
 /// Whether a further step of multiplying or dividing by ten would leave the value as it is.
-bool IsSettled(double value) {
-  return value == 0.0 || value - value != 0.0;
-}
+bool IsSettled(double value) { return value == 0.0 || value - value != 0.0; }
 
 double ScaleByTen(double value, std::int32_t exponent, bool negative) {
   // One operation per step: the rounding of each is part of the result.
@@ -21,13 +19,9 @@ double ScaleByTen(double value, std::int32_t exponent, bool negative) {
 }
 
 /// Value that a character other than signs, points and marks adds as a digit.
-std::int32_t DigitOf(char c) {
-  return static_cast<signed char>(c) - 48;
-}
+std::int32_t DigitOf(char c) { return static_cast<signed char>(c) - 48; }
 
-std::uint32_t AppendDigit(std::uint32_t number, char c) {
-  return number * 10u + static_cast<std::uint32_t>(DigitOf(c));
-}
+std::uint32_t AppendDigit(std::uint32_t number, char c) { return number * 10u + static_cast<std::uint32_t>(DigitOf(c)); }
 
 }  // namespace
 
@@ -55,9 +49,7 @@ char* TrimRight(char* text) {
   return text;
 }
 
-char* TrimField(char* text) {
-  return TrimRight(TrimLeft(text));
-}
+char* TrimField(char* text) { return TrimRight(TrimLeft(text)); }
 
 char* CompactField(char* text) {
   TrimField(text);
@@ -154,9 +146,7 @@ double ParseReal(const char* text, std::size_t length) {
   return negative ? -value : value;
 }
 
-double ParseReal(const char* text) {
-  return ParseReal(text, std::strlen(text));
-}
+double ParseReal(const char* text) { return ParseReal(text, std::strlen(text)); }
 
 void ReadRealField(std::int32_t width, CardCursor* cursor, double* out) {
   if (**cursor == '\n') {

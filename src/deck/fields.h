@@ -34,9 +34,7 @@ inline void PeekField(std::int32_t width, const char* cursor, char* dest) {
 }
 
 /// Moves the cursor ahead by `count` bytes, but not behind the text's NUL.
-inline void Advance(CardCursor* cursor, std::size_t count) {
-  *cursor += strnlen(*cursor, count);
-}
+inline void Advance(CardCursor* cursor, std::size_t count) { *cursor += strnlen(*cursor, count); }
 
 /// Removes leading white space by moving the rest down. Null is passed through.
 char* TrimLeft(char* text);
@@ -89,8 +87,6 @@ void SkipPlusAndBlanks(CardCursor* cursor);
 std::int32_t ReadCommaField(CardCursor* cursor, char* dest, std::size_t capacity);
 
 /// Occurrence of `pattern` in `text` in any case mix, or null.
-inline const char* FindNoCase(const char* text, const char* pattern) {
-  return FindSubstringNoCase(text, pattern);
-}
+inline const char* FindNoCase(const char* text, const char* pattern) { return FindSubstringNoCase(text, pattern); }
 
 }  // namespace btz

@@ -21,9 +21,7 @@ namespace {
 
 constexpr std::size_t commentLineCapacity = 260;
 
-bool IsUsable(std::int32_t id, const char* name) {
-  return id >= 1 && name != nullptr && *name != 0;
-}
+bool IsUsable(std::int32_t id, const char* name) { return id >= 1 && name != nullptr && *name != 0; }
 
 void AddName(HashTable* table, std::int32_t id, const char* name) {
   auto* record = static_cast<NameRecord*>(AllocateZeroed(sizeof(NameRecord)));
@@ -88,9 +86,7 @@ std::int32_t HmNameId(bool component, const char* head, const char* rest) {
 
 }  // namespace
 
-const NameRecord* FindName(const HashTable* table, std::int32_t id) {
-  return static_cast<const NameRecord*>(HashFind(table, &id));
-}
+const NameRecord* FindName(const HashTable* table, std::int32_t id) { return static_cast<const NameRecord*>(HashFind(table, &id)); }
 
 void RegisterPropertyName(std::int32_t id, const char* name, bool overwrite) {
   if (!IsUsable(id, name)) {

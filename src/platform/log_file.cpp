@@ -4,9 +4,7 @@
 
 namespace btz {
 
-std::FILE* OpenLog(const char* logPath) {
-  return logPath == nullptr || *logPath == 0 ? nullptr : OpenFileUtf8(logPath, "a+");
-}
+std::FILE* OpenLog(const char* logPath) { return logPath == nullptr || *logPath == 0 ? nullptr : OpenFileUtf8(logPath, "a+"); }
 
 void AppendToLog(const char* logPath, const char* text) {
   std::FILE* log = OpenLog(logPath);

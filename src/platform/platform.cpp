@@ -8,21 +8,13 @@ Platform* inForce = nullptr;
 
 }  // namespace
 
-Platform& CurrentPlatform() {
-  return inForce == nullptr ? SystemPlatform() : *inForce;
-}
+Platform& CurrentPlatform() { return inForce == nullptr ? SystemPlatform() : *inForce; }
 
-ScopedPlatform::ScopedPlatform(Platform& platform) : before(inForce) {
-  inForce = &platform;
-}
+ScopedPlatform::ScopedPlatform(Platform& platform) : before(inForce) { inForce = &platform; }
 
-ScopedPlatform::~ScopedPlatform() {
-  inForce = before;
-}
+ScopedPlatform::~ScopedPlatform() { inForce = before; }
 
-std::FILE* OpenFileUtf8(const char* path, const char* mode) {
-  return CurrentPlatform().OpenFile(path, mode);
-}
+std::FILE* OpenFileUtf8(const char* path, const char* mode) { return CurrentPlatform().OpenFile(path, mode); }
 
 std::int64_t FileLength(std::FILE* file) {
 #ifdef _WIN32

@@ -79,7 +79,7 @@ class WindowsPlatform final : public Platform {
   }
 
  private:
-  HANDLE mapping = nullptr;      // Mapping and view stay open after a run; the next run's OpenProgressWord replaces them.
+  HANDLE mapping = nullptr;  // Mapping and view stay open after a run; the next run's OpenProgressWord replaces them.
   std::int32_t* word = nullptr;
 };
 

@@ -6,13 +6,9 @@ namespace btz {
 
 namespace {
 
-char* Payload(PoolBlock* block) {
-  return reinterpret_cast<char*>(block + 1);
-}
+char* Payload(PoolBlock* block) { return reinterpret_cast<char*>(block + 1); }
 
-bool HasRoom(PoolBlock* block, std::size_t size) {
-  return static_cast<std::size_t>(block->top - Payload(block)) >= size;
-}
+bool HasRoom(PoolBlock* block, std::size_t size) { return static_cast<std::size_t>(block->top - Payload(block)) >= size; }
 
 bool AddBlock(BlockPool* pool, std::size_t size) {
   const std::size_t payload = size > pool->blockSize ? size : static_cast<std::size_t>(pool->blockSize);
@@ -36,13 +32,9 @@ bool AddBlock(BlockPool* pool, std::size_t size) {
 
 }  // namespace
 
-void* AllocateZeroed(std::size_t size) {
-  return std::calloc(1, size);
-}
+void* AllocateZeroed(std::size_t size) { return std::calloc(1, size); }
 
-void ReleaseMemory(void* memory) {
-  std::free(memory);
-}
+void ReleaseMemory(void* memory) { std::free(memory); }
 
 void PoolInit(BlockPool* pool) {
   *pool = BlockPool{};

@@ -10,9 +10,7 @@ namespace btz {
 std::int32_t TruncateToInt(double value);
 
 /// The lower of two ids, signed.
-inline std::int32_t LowerId(std::int32_t a, std::int32_t b) {
-  return b < a ? b : a;
-}
+inline std::int32_t LowerId(std::int32_t a, std::int32_t b) { return b < a ? b : a; }
 
 // Keys. `userData` is never read.
 std::int32_t HashFirstInt(const void* record, void* userData);             ///< First 32-bit field: the id.
@@ -23,7 +21,7 @@ std::int32_t HashPositiveId(const void* record, void* userData);           ///< 
 std::int32_t HashTruncatedThirdReal(const void* record, void* userData);   ///< Third 64-bit real, cut towards zero.
 std::int32_t HashTruncatedFourthReal(const void* record, void* userData);  ///< Fourth 64-bit real, cut towards zero.
 std::int32_t HashPairMin(const void* record, void* userData);              ///< The lower of the first two 32-bit fields.
-std::int32_t HashValue(const void* record, void* userData);       ///< Low half of the pointer itself, signed, negated if negative.
+std::int32_t HashValue(const void* record, void* userData);                ///< Low half of the pointer itself, signed, negated if negative.
 std::int32_t HashIndirectId(const void* record, void* userData);  ///< First 32-bit field of what the record's first pointer points to.
 
 // Equality: 0 when both records are equal.

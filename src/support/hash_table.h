@@ -32,9 +32,7 @@ std::int32_t HashInsert(HashTable* table, void* record);
 void* HashFind(const HashTable* table, const void* probe);
 
 /// Number of records held.
-inline std::int32_t HashCount(const HashTable* table) {
-  return table->count;
-}
+inline std::int32_t HashCount(const HashTable* table) { return table->count; }
 
 /// Takes the record that equals `probe` out of the table: 1, or 0 if there is none. Passing the very record that HashIterateNext would
 /// return next moves the iterator on first; a separate probe does not.
@@ -48,5 +46,14 @@ void HashIterateStart(HashTable* table);
 
 /// The next record, or null at the end and from then on until HashIterateStart. One iterator a table: walks can't be nested.
 void* HashIterateNext(HashTable* table);
+
+/// Calls `visit(record)` for each record, in the table's order. `visit` must not walk the table.
+template <typename Record, typename Visit>
+void WalkTable(HashTable* table, Visit visit) {
+  HashIterateStart(table);
+  for (void* record = HashIterateNext(table); record != nullptr; record = HashIterateNext(table)) {
+    visit(static_cast<Record*>(record));
+  }
+}
 
 }  // namespace btz

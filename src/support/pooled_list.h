@@ -53,4 +53,16 @@ void ListClear(PooledList* list);
 /// ListClear; with bit 0 of `flags` set, frees the list's own memory too. Returns the list.
 PooledList* ListDestroy(PooledList* list, std::int32_t flags);
 
+/// Calls `visit(value)` for each value, from the first cell up to the first null. A null list counts as empty. `visit` must not walk the list.
+template <typename Value, typename Visit>
+void WalkList(PooledList* list, Visit visit) {
+  if (list == nullptr) {
+    return;
+  }
+  ListRewind(list);
+  for (void* value = ListNext(list); value != nullptr; value = ListNext(list)) {
+    visit(static_cast<Value*>(value));
+  }
+}
+
 }  // namespace btz

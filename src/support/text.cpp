@@ -42,6 +42,8 @@ bool IsHuge(const char* first, const char* end) {
   return mark == std::string_view::npos || number[mark + 1] != '-';
 }
 
+wchar_t ToLower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c; }
+
 template <typename Character>
 void FormatNumberedInto(Character* dest, std::size_t capacity, const char* prefix, std::int32_t number) {
   char digits[12];
@@ -59,9 +61,7 @@ void FormatNumberedInto(Character* dest, std::size_t capacity, const char* prefi
 
 }  // namespace
 
-std::int32_t ParseInteger(const char* text) {
-  return text == nullptr ? 0 : ParseInteger(text, std::strlen(text));
-}
+std::int32_t ParseInteger(const char* text) { return text == nullptr ? 0 : ParseInteger(text, std::strlen(text)); }
 
 std::int32_t ParseInteger(const char* text, std::size_t length) {
   const char* end = text + length;
@@ -112,6 +112,18 @@ std::int32_t CompareNoCase(const char* a, const char* b) {
     ++b;
   }
   return static_cast<unsigned char>(ToLower(*a)) - static_cast<unsigned char>(ToLower(*b));
+}
+
+std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b) {
+  a = a == nullptr ? L"" : a;
+  b = b == nullptr ? L"" : b;
+  while (*a != 0 && ToLower(*a) == ToLower(*b)) {
+    ++a;
+    ++b;
+  }
+  const wchar_t left = ToLower(*a);
+  const wchar_t right = ToLower(*b);
+  return left < right ? -1 : (left > right ? 1 : 0);
 }
 
 std::int32_t StartsWithNoCase(const char* text, const char* prefix) {
@@ -171,6 +183,14 @@ void FormatNumbered(wchar_t* dest, std::size_t capacity, const char* prefix, std
 
 void FormatNumbered(char* dest, std::size_t capacity, const char* prefix, std::int32_t number) {
   FormatNumberedInto(dest, capacity, prefix, number);
+}
+
+void FormatSuffixed(wchar_t* dest, std::size_t capacity, const wchar_t* name, std::int32_t number) {
+  std::size_t length = 0;
+  for (; name != nullptr && name[length] != 0 && length + 1 < capacity; ++length) {
+    dest[length] = name[length];
+  }
+  FormatNumbered(dest + length, capacity - length, "_", number);
 }
 
 }  // namespace btz

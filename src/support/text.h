@@ -9,21 +9,13 @@
 namespace btz {
 
 /// Tab, line feed, vertical tab, form feed, carriage return and blank.
-inline bool IsSpace(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
+inline bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-inline bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-inline bool IsAlpha(char c) {
-  return static_cast<unsigned char>((static_cast<unsigned char>(c) | 0x20) - 'a') < 26;
-}
+inline bool IsAlpha(char c) { return static_cast<unsigned char>((static_cast<unsigned char>(c) | 0x20) - 'a') < 26; }
 
-inline char ToLower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
+inline char ToLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
 /// Integer at the start of `text`, behind white space and one sign, up to the first other character; 0 without digits or for null. A number
 /// beyond 32 bits wraps modulo 2^32.
@@ -38,6 +30,9 @@ double ParseDecimal(const char* text);
 
 /// Three-way comparison of two texts without regard to the case of ASCII letters.
 std::int32_t CompareNoCase(const char* a, const char* b);
+
+/// The same for texts of wide characters; null counts as empty.
+std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b);
 
 /// 0 if `text` begins with `prefix` in any case mix; -1 if either is null or empty; -2 if `text` is shorter; otherwise the three-way
 /// comparison of the heads without regard to case.
@@ -57,5 +52,8 @@ void FormatNumbered(wchar_t* dest, std::size_t capacity, const char* prefix, std
 
 /// The same in narrow characters: "Set7".
 void FormatNumbered(char* dest, std::size_t capacity, const char* prefix, std::int32_t number);
+
+/// Writes `name`, "_" and the decimal number, at most `capacity - 1` characters and the terminator: "Door_1". Null counts as empty.
+void FormatSuffixed(wchar_t* dest, std::size_t capacity, const wchar_t* name, std::int32_t number);
 
 }  // namespace btz

@@ -1,0 +1,129 @@
+#include "driver/card_actions.h"
+
+#include <cstring>
+
+#include "analysis/case_control.h"
+#include "deck/fields.h"
+#include "deck/name_comments.h"
+#include "mesh/nodes.h"
+#include "mesh/shells.h"
+#include "mesh/solids.h"
+#include "support/text.h"
+
+namespace btz {
+
+namespace {
+
+// Readers of the three forms of sets, behind their common name handling.
+constexpr CardReader setGroupCard = NotBuilt;
+constexpr CardReader setListCard = NotBuilt;
+constexpr CardReader surfaceCard = NotBuilt;
+
+std::int32_t RunIfBuilt(CardReader reader, CardContext& context) { return reader == NotBuilt ? 0 : reader(context); }
+
+/// Takes the line at the cursor.
+void TakeLine(CardContext& context, char (&line)[deckLineCapacity]) { ReadDeckLine(&context.file.cursor, line, sizeof(line)); }
+
+/// Takes a line of the form `WORD = number`; other forms set nothing, nor does a line behind the first subcase.
+void TakeAssignment(CardContext& context, std::int32_t* value) {
+  char line[deckLineCapacity];
+  TakeLine(context, line);
+  if (std::strchr(line, '=') != nullptr && !context.run.hasSeenSubcase) {
+    *value = GetFreeInteger(line, 1);
+  }
+}
+
+/// Name of the set or surface at the cursor: that of the comment above it, or the next running number.
+void NameSet(CardContext& context) {
+  RunState& run = context.run;
+  run.setName[0] = 0;
+  ReadCommentAboveCard(context.file.cursor, run.setName);
+  if (run.setName[0] == 0) {
+    FormatNumbered(run.setName, sizeof(run.setName), "Set", run.names.set++);
+  }
+}
+
+bool NamesItsMembers(const char* line) {
+  return FindSubstringNoCase(line, "GRID") != nullptr || FindSubstringNoCase(line, "ELEM") != nullptr ||
+         FindSubstringNoCase(line, "LIST") != nullptr;
+}
+
+}  // namespace
+
+std::int32_t GridCard(CardContext& context) {
+  RunState& run = context.run;
+  ReadGridCard(run.model, &context.file.cursor, &run.lists.gridCp, &run.gridCdTable, run.logPath);
+  return 0;
+}
+
+std::int32_t SolLine(CardContext& context) {
+  char line[deckLineCapacity];
+  TakeLine(context, line);
+  SolNumber = GetFreeInteger(line, 1);
+  return 0;
+}
+
+std::int32_t SdampingLine(CardContext& context) {
+  char line[deckLineCapacity];
+  TakeLine(context, line);
+  if (!context.run.hasSeenSubcase) {
+    GlobalSdampingId = GetFreeInteger(line, 1);
+  }
+  return 0;
+}
+
+std::int32_t MfluidLine(CardContext& context) {
+  TakeAssignment(context, &GlobalMfluidId);
+  return 0;
+}
+
+std::int32_t MethodLine(CardContext& context) {
+  TakeAssignment(context, &GlobalMethodId);
+  return 0;
+}
+
+std::int32_t Tria3Card(CardContext& context) { return ReadTria3Card(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t Tria6Card(CardContext& context) { return ReadTria6Card(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t Quad4Card(CardContext& context) { return ReadQuad4Card(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t Quad8Card(CardContext& context) { return ReadQuad8Card(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t TetraCard(CardContext& context) { return ReadTetraCard(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t PentaCard(CardContext& context) { return ReadPentaCard(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t HexaCard(CardContext& context) { return ReadHexaCard(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t PyramidCard(CardContext& context) { return ReadPyramidCard(context.run.model, &context.file, context.run.logPath); }
+
+std::int32_t AnsaNameComment(CardContext& context) {
+  ReadAnsaNameComment(&context.file.cursor);
+  return 0;
+}
+
+std::int32_t HmNameComment(CardContext& context) {
+  ReadHmNameComment(&context.file.cursor);
+  return 0;
+}
+
+std::int32_t HmSetComment(CardContext& context) {
+  ReadHmSetComment(&context.file.cursor);
+  return 0;
+}
+
+std::int32_t SetCard(CardContext& context) {
+  NameSet(context);
+  char line[deckLineCapacity];
+  CardCursor unmoved = context.file.cursor;
+  ReadDeckLine(&unmoved, line, sizeof(line));
+  return RunIfBuilt(NamesItsMembers(line) ? setGroupCard : setListCard, context);
+}
+
+std::int32_t SurfCard(CardContext& context) {
+  NameSet(context);
+  return RunIfBuilt(surfaceCard, context);
+}
+
+}  // namespace btz

@@ -1,0 +1,32 @@
+// What the rows of the pass tables do: each hands the readers just what they need of the run, or takes a line that the driver reads itself.
+#pragma once
+
+#include "driver/card_table.h"
+
+namespace btz {
+
+// Pass 1.
+std::int32_t GridCard(CardContext& context);
+std::int32_t SolLine(CardContext& context);       ///< Solution sequence.
+std::int32_t SdampingLine(CardContext& context);  ///< Damping table for all subcases, in front of the first.
+std::int32_t MfluidLine(CardContext& context);    ///< Fluid set for all subcases, in front of the first.
+std::int32_t MethodLine(CardContext& context);    ///< Eigenvalue method for all subcases, in front of the first.
+
+// Passes 2 and 3.
+std::int32_t Tria3Card(CardContext& context);
+std::int32_t Tria6Card(CardContext& context);
+std::int32_t Quad4Card(CardContext& context);
+std::int32_t Quad8Card(CardContext& context);
+std::int32_t TetraCard(CardContext& context);
+std::int32_t PentaCard(CardContext& context);
+std::int32_t HexaCard(CardContext& context);
+std::int32_t PyramidCard(CardContext& context);
+std::int32_t AnsaNameComment(CardContext& context);
+std::int32_t HmNameComment(CardContext& context);
+std::int32_t HmSetComment(CardContext& context);
+
+// Pass 4.
+std::int32_t SetCard(CardContext& context);
+std::int32_t SurfCard(CardContext& context);
+
+}  // namespace btz

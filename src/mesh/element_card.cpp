@@ -1,0 +1,21 @@
+#include "mesh/element_card.h"
+
+#include <cstdio>
+
+#include "platform/log_file.h"
+
+namespace btz {
+
+std::int32_t CreateElementInPart(MeshModel* model, const ElementCard& card, PartKind kind, std::int32_t solidFlag, std::uint8_t shellFlag,
+                                 const char* word, const char* logPath) {
+  EnsurePart(model, card.partId, kind);
+  if (model->CreateElement(card.id, card.type, card.nodes, card.partId, 0, solidFlag, shellFlag, 0) >= 0) {
+    return 0;
+  }
+  char refused[32];
+  std::snprintf(refused, sizeof(refused), "%s Element", word);
+  LogFailure(logPath, refused, card.id);
+  return 1;
+}
+
+}  // namespace btz
