@@ -133,6 +133,7 @@ void SetUpTables(RunState* run) {
   for (PooledList* list : {&PartList, &AsetList, &TransitionElementList, &PretensionBoltList}) {
     ListClear(list);
   }
+  DefaultPartId = 0;
 }
 
 void InitProcessState() {

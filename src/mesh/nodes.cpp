@@ -22,12 +22,8 @@ struct GridCard {
 };
 
 bool IsFreeFormat(const char* card) {
-  const std::size_t head = strnlen(card, 4);
-  const char* at = card + head;
-  while (*at != '\n' && *at != ',' && *at != 0) {
-    ++at;
-  }
-  return *at == ',';
+  const char* behindKeyword = card + strnlen(card, 4);
+  return behindKeyword[std::strcspn(behindKeyword, ",\n")] == ',';
 }
 
 /// The byte `width` columns ahead, or NUL when the text ends before it.
