@@ -60,13 +60,14 @@ constexpr CardRow CountedRow(const char* keyword, Family family, CardReader read
 }
 
 /// A table ready for the walk: its rows in order, regrouped by first letter. Rows of different letters can't fit the same text, so only the
-/// order within a letter matters, and a line that nobody claims costs one look-up of its first character.
+/// order within a letter matters, and a line that nobody claims costs a look-up of its first two characters.
 struct PassTable {
   static constexpr std::size_t mostRows = 64;
 
   bool skipsBlanks = false;  ///< White space in front of a keyword is skipped, line feeds included.
   std::uint8_t firstRow[256] = {};
   std::uint8_t rowCount[256] = {};
+  std::uint32_t secondLetters[256] = {};  ///< Bit (character & 31) is set for each second character that a row of the letter has.
   CardRow rows[mostRows] = {};
 };
 
@@ -85,6 +86,7 @@ constexpr PassTable MakePassTable(bool skipsBlanks, std::span<const CardRow> row
       if (BeginsWithLetter(row, static_cast<unsigned char>(letter))) {
         table.rows[used++] = row;
         ++table.rowCount[letter];
+        table.secondLetters[letter] |= 1u << (static_cast<unsigned char>(row.keyword[1]) & 31u);
       }
     }
   }

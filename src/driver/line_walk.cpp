@@ -47,6 +47,10 @@ bool Fits(const CardRow& row, const char* text, const char* parentText) {
 
 const CardRow* FindRow(const PassTable& table, const char* text, const char* parentText) {
   const auto letter = static_cast<unsigned char>(*text);
+  // Letters of either case share their lower five bits, so this holds for keywords taken in any case mix too.
+  if ((table.secondLetters[letter] >> (static_cast<unsigned char>(letter == 0 ? 0 : text[1]) & 31u) & 1u) == 0) {
+    return nullptr;
+  }
   const CardRow* row = &table.rows[table.firstRow[letter]];
   for (std::uint8_t i = 0; i < table.rowCount[letter]; ++i, ++row) {
     if (Fits(*row, text, parentText)) {

@@ -7,13 +7,9 @@ namespace btz {
 
 namespace {
 
-const MeshElement& AsFace(const void* record) {
-  return *static_cast<const MeshElement*>(record);
-}
+const MeshElement& AsFace(const void* record) { return *static_cast<const MeshElement*>(record); }
 
-std::int32_t CornerCount(const MeshElement& face) {
-  return face.nodes == nullptr ? 0 : TopologyOf(ElementCornerCount, face.typeIndex);
-}
+std::int32_t CornerCount(const MeshElement& face) { return face.nodes == nullptr ? 0 : TopologyOf(ElementCornerCount, face.typeIndex); }
 
 /// Id of a corner; 0 for one that is absent.
 std::int32_t CornerId(const MeshElement& face, std::int32_t corner) {
@@ -29,9 +25,7 @@ std::int32_t CountOccurrences(const MeshElement& face, std::int32_t id) {
   return count;
 }
 
-std::int32_t Negated(std::int32_t value) {
-  return static_cast<std::int32_t>(0u - static_cast<std::uint32_t>(value));
-}
+std::int32_t Negated(std::int32_t value) { return static_cast<std::int32_t>(0u - static_cast<std::uint32_t>(value)); }
 
 }  // namespace
 

@@ -23,7 +23,7 @@ struct GridCard {
 
 bool IsFreeFormat(const char* card) {
   const char* behindKeyword = card + strnlen(card, 4);
-  return behindKeyword[std::strcspn(behindKeyword, ",\n")] == ',';
+  return std::memchr(behindKeyword, ',', std::strcspn(behindKeyword, "\n")) != nullptr;
 }
 
 /// The byte `width` columns ahead, or NUL when the text ends before it.

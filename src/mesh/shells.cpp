@@ -10,17 +10,18 @@ HashTable ReducedShellPropertyTable;
 
 namespace {
 
-/// What differs between the shell cards. A card without a plot form has null for its keyword.
+/// What differs between the shell cards. A card without a plot form has null for its plot keyword.
 struct ShellForm {
   std::int32_t type;
   const char* logWord;
+  const char* keyword;
   const char* plotKeyword;
 };
 
-constexpr ShellForm tria3{elementTria3, "Tri3", "PLOTEL3"};
-constexpr ShellForm tria6{elementTria6, "Tri6", nullptr};
-constexpr ShellForm quad4{elementQuad4, "Quad4", "PLOTEL4"};
-constexpr ShellForm quad8{elementQuad8, "Quad8", nullptr};
+constexpr ShellForm tria3{elementTria3, "Tri3", "CTRIA3", "PLOTEL3"};
+constexpr ShellForm tria6{elementTria6, "Tri6", "CTRIA6", nullptr};
+constexpr ShellForm quad4{elementQuad4, "Quad4", "CQUAD4", "PLOTEL4"};
+constexpr ShellForm quad8{elementQuad8, "Quad8", "CQUAD8", nullptr};
 
 /// Whether `keyword` is `name` or `name*`, in any case mix; `*star` tells which.
 bool IsKeywordOrStarForm(const char* keyword, const char* name, bool* star) {
@@ -32,9 +33,26 @@ bool IsKeywordOrStarForm(const char* keyword, const char* name, bool* star) {
   return std::strlen(keyword) == length + (*star ? 1 : 0);
 }
 
-bool IsReducedShell(const char* keyword) {
+/// What the keyword field says of a shell card.
+struct ShellKeyword {
+  bool isPlot = false;
+  bool isLargePlot = false;
+  bool isReduced = false;
+};
+
+ShellKeyword TakeShellKeyword(CardCursor* cursor, const ShellForm& form) {
+  ShellKeyword result;
+  // Most cards bear the plain keyword, which needs no closer look.
+  if (BeginsWithKeyword(*cursor, form.keyword)) {
+    Advance(cursor, 8);
+    return result;
+  }
+  FieldText keyword;
+  TakeKeyword(cursor, keyword);
   bool star = false;
-  return IsKeywordOrStarForm(keyword, "CQUADR", &star);
+  result.isPlot = form.plotKeyword != nullptr && IsKeywordOrStarForm(keyword, form.plotKeyword, &result.isLargePlot);
+  result.isReduced = form.type == elementQuad4 && IsKeywordOrStarForm(keyword, "CQUADR", &star);
+  return result;
 }
 
 void NoteReducedShell(std::int32_t partId) {
@@ -52,22 +70,19 @@ void NoteReducedShell(std::int32_t partId) {
 }
 
 std::int32_t ReadShellCard(MeshModel* model, CardCursor* cursor, const char* logPath, const ShellForm& form, std::int32_t width) {
-  FieldText keyword;
-  TakeKeyword(cursor, keyword);
-  bool largePlot = false;
-  const bool plot = form.plotKeyword != nullptr && IsKeywordOrStarForm(keyword, form.plotKeyword, &largePlot);
-  if (plot) {
-    width = largePlot ? 16 : 8;
+  const ShellKeyword keyword = TakeShellKeyword(cursor, form);
+  if (keyword.isPlot) {
+    width = keyword.isLargePlot ? 16 : 8;
   }
   ElementCard card;
   card.type = form.type;
   ReadIdField(width, cursor, &card.id, false);
   std::int32_t pid = 0;
-  if (!plot) {
+  if (!keyword.isPlot) {
     ReadIdField(width, cursor, &pid, false);
   }
   card.partId = ResolvePartId(model, pid);
-  if (form.type == elementQuad4 && IsReducedShell(keyword)) {
+  if (keyword.isReduced) {
     NoteReducedShell(card.partId);
   }
   WalkIntegers(cursor, width, card.nodes, TopologyOf(ElementNodeCount, form.type));

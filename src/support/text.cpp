@@ -63,22 +63,6 @@ void FormatNumberedInto(Character* dest, std::size_t capacity, const char* prefi
 
 std::int32_t ParseInteger(const char* text) { return text == nullptr ? 0 : ParseInteger(text, std::strlen(text)); }
 
-std::int32_t ParseInteger(const char* text, std::size_t length) {
-  const char* end = text + length;
-  while (text != end && IsSpace(*text)) {
-    ++text;
-  }
-  const bool negative = text != end && *text == '-';
-  if (text != end && (*text == '-' || *text == '+')) {
-    ++text;
-  }
-  std::uint32_t value = 0;
-  for (; text != end && IsDigit(*text); ++text) {
-    value = value * 10u + static_cast<std::uint32_t>(*text - '0');
-  }
-  return static_cast<std::int32_t>(negative ? 0u - value : value);
-}
-
 double ParseDecimal(const char* text) {
   if (text == nullptr) {
     return 0.0;

@@ -22,7 +22,21 @@ inline char ToLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c 
 std::int32_t ParseInteger(const char* text);
 
 /// The same over the `length` bytes from `text`; a NUL among them ends the number too.
-std::int32_t ParseInteger(const char* text, std::size_t length);
+inline std::int32_t ParseInteger(const char* text, std::size_t length) {
+  const char* const end = text + length;
+  while (text != end && IsSpace(*text)) {
+    ++text;
+  }
+  const bool negative = text != end && *text == '-';
+  if (text != end && (*text == '-' || *text == '+')) {
+    ++text;
+  }
+  std::uint32_t value = 0;
+  for (; text != end && IsDigit(*text); ++text) {
+    value = value * 10u + static_cast<std::uint32_t>(*text - '0');
+  }
+  return static_cast<std::int32_t>(negative ? 0u - value : value);
+}
 
 /// Decimal number at the start of `text` with optional fraction and exponent (`E` or `e`), correctly rounded; 0.0 without digits. Never
 /// depends on the locale and knows no infinities, hexadecimal or other exponent letters. For tests on a field, not for values to be stored.
