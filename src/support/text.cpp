@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <string_view>
 #include <system_error>
 
 namespace btz {
@@ -24,22 +23,38 @@ const char* SkipDigits(const char* text) {
   return text;
 }
 
+const char* SkipSign(const char* text) { return *text == '+' || *text == '-' ? text + 1 : text; }
+
 /// End of the exponent that starts at `text`, or `text` itself when there is none.
 const char* SkipExponent(const char* text) {
   if (*text != 'E' && *text != 'e') {
     return text;
   }
-  const char* digits = text + (text[1] == '+' || text[1] == '-' ? 2 : 1);
+  const char* digits = SkipSign(text + 1);
   const char* end = SkipDigits(digits);
   return end == digits ? text : end;
 }
 
-/// Whether the number of the correctly formed text from `first` is too large rather than too small: its first non-zero digit stands before
-/// the place that the exponent shifts to the point. Only asked when the conversion says that it is out of range.
+/// Whether the number of the correctly formed text from `first` is too large rather than too small: the exponent shifts its first digit other
+/// than 0 in front of the point. Only asked when the conversion says that it is out of range.
 bool IsHuge(const char* first, const char* end) {
-  const std::string_view number(first, static_cast<std::size_t>(end - first));
-  const std::size_t mark = number.find_first_of("Ee");
-  return mark == std::string_view::npos || number[mark + 1] != '-';
+  constexpr std::int64_t farBeyond = 1000000000000;  // Keeps the sum below in range for any text.
+  const char* point = SkipDigits(first);
+  const char* leading = first;
+  while (*leading == '0' || *leading == '.') {
+    ++leading;
+  }
+  const std::int64_t place = leading < point ? point - leading : point - leading + 1;  // 1 for the units, 0 for the tenths.
+  const char* mark = SkipDigits(*point == '.' ? point + 1 : point);
+  if (mark == end) {
+    return place > 0;
+  }
+  const bool negative = mark[1] == '-';
+  std::int64_t exponent = 0;
+  for (const char* digit = SkipSign(mark + 1); digit != end && exponent < farBeyond; ++digit) {
+    exponent = exponent * 10 + (*digit - '0');
+  }
+  return place + (negative ? -exponent : exponent) > 0;
 }
 
 wchar_t ToLower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c; }
@@ -69,9 +84,7 @@ double ParseDecimal(const char* text) {
   }
   const char* first = SkipSpace(text);
   const bool negative = *first == '-';
-  if (*first == '-' || *first == '+') {
-    ++first;
-  }
+  first = SkipSign(first);
   const char* end = SkipDigits(first);
   bool hasDigits = end != first;
   if (*end == '.') {
