@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,16 +20,12 @@
 namespace btz::test {
 
 /// Text at the cursor up to its line feed or the chunk's end.
-inline std::string LineAt(const char* cursor) {
-  const std::string_view text(cursor);
-  return std::string(text.substr(0, text.find('\n')));
-}
+inline std::string LineAt(const char* cursor) { return std::string(cursor, std::strcspn(cursor, "\n")); }
 
 /// Moves behind the line at the cursor, or to the chunk's end.
 inline void PassLine(DeckBuffer& file) {
-  const std::string_view text(file.cursor);
-  const std::size_t feed = text.find('\n');
-  file.cursor += feed == std::string_view::npos ? text.size() : feed + 1;
+  file.cursor += std::strcspn(file.cursor, "\n");
+  file.cursor += *file.cursor == '\n' ? 1 : 0;
 }
 
 class WalkTest : public testing::Test {
@@ -39,15 +36,21 @@ class WalkTest : public testing::Test {
   }
 
   ~WalkTest() override {
-    if (run.deck.stream != nullptr) {
-      std::fclose(run.deck.stream);
-    }
+    CloseDeck();
     ReleaseRun(&run);
     ResetProcessState();
   }
 
+  void CloseDeck() {
+    if (run.deck.stream != nullptr) {
+      std::fclose(run.deck.stream);
+      run.deck.stream = nullptr;
+    }
+  }
+
   /// Puts the run on a deck with this text, its first chunk read.
   void OpenDeck(std::string_view text) {
+    CloseDeck();
     deckPath = folder.Write("deck.bdf", text);
     run.deckPath = deckPath.c_str();
     std::FILE* stream = OpenFileUtf8(run.deckPath, "rb");
