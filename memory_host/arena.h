@@ -79,13 +79,14 @@ class ArrayArena {
   std::size_t left_ = 0;
 };
 
-/// Records by positive id, in open addressing. Ids that follow each other lie side by side, as decks number them.
+/// Records by positive id, in open addressing. Ids lie in order, since decks number in runs that are also read in runs; when the runs of a deck
+/// fall on each other the map starts to scatter them instead.
 template <typename Record>
 class IdMap {
  public:
   void Reserve(std::size_t count) {
     if (count * 2 > slots_.size()) {
-      Grow(count * 2);
+      Rebuild(count * 2);
     }
   }
 
@@ -94,26 +95,32 @@ class IdMap {
     if (id <= 0 || slots_.empty()) {
       return nullptr;
     }
-    for (std::size_t i = Place(id);; i = (i + 1) & mask_) {
+    std::size_t i = Place(id);
+    for (std::size_t steps = 0; steps <= longestWalk_ && slots_[i].id != 0; ++steps) {
       if (slots_[i].id == id) {
         return slots_[i].record;
       }
-      if (slots_[i].id == 0) {
-        return nullptr;
-      }
+      i = (i + 1) & mask_;
     }
+    return nullptr;
   }
 
   /// Enters a record under a positive id that is not held yet.
   void Insert(std::int32_t id, Record* record) {
     if ((count_ + 1) * 2 > slots_.size()) {
-      Grow((count_ + 1) * 4);
+      Rebuild((count_ + 1) * 4);
     }
     Put(id, record);
     ++count_;
+    if (longestWalk_ > orderlyWalk && !scattered_) {
+      scattered_ = true;
+      Rebuild(slots_.size());
+    }
   }
 
  private:
+  static constexpr std::size_t orderlyWalk = 64;
+
   struct Slot {
     std::int32_t id = 0;
     Record* record = nullptr;
@@ -121,18 +128,20 @@ class IdMap {
 
   std::size_t Place(std::int32_t id) const {
     const auto key = static_cast<std::uint32_t>(id);
-    return (key ^ ((key >> 16) * 0x9E3779B1u)) & mask_;
+    return (scattered_ ? (key * std::uint64_t{0x9E3779B97F4A7C15}) >> 32 : key) & mask_;
   }
 
   void Put(std::int32_t id, Record* record) {
+    std::size_t steps = 0;
     std::size_t i = Place(id);
-    while (slots_[i].id != 0) {
+    for (; slots_[i].id != 0; ++steps) {
       i = (i + 1) & mask_;
     }
     slots_[i] = {id, record};
+    longestWalk_ = std::max(longestWalk_, steps);
   }
 
-  void Grow(std::size_t wanted) {
+  void Rebuild(std::size_t wanted) {
     std::size_t size = 64;
     while (size < wanted) {
       size *= 2;
@@ -140,6 +149,7 @@ class IdMap {
     std::vector<Slot> old(size);
     old.swap(slots_);
     mask_ = size - 1;
+    longestWalk_ = 0;
     for (const Slot& slot : old) {
       if (slot.id != 0) {
         Put(slot.id, slot.record);
@@ -150,6 +160,8 @@ class IdMap {
   std::vector<Slot> slots_;
   std::size_t mask_ = 0;
   std::size_t count_ = 0;
+  std::size_t longestWalk_ = 0;  ///< Most steps from an id's place to its slot.
+  bool scattered_ = false;
 };
 
 }  // namespace btz::memory

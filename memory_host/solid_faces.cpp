@@ -15,11 +15,15 @@ struct CornerSet {
   std::array<std::int32_t, 4> indices{};
   std::int32_t count = 0;
 
+  /// Puts the node in its place among those that are there; there are never more than four.
   void Add(const MeshNode* node) {
-    indices[static_cast<std::size_t>(count)] = static_cast<const MemoryNode*>(node)->index;
-    ++count;
+    const std::int32_t index = static_cast<const MemoryNode*>(node)->index;
+    auto place = static_cast<std::size_t>(count++);
+    for (; place > 0 && indices[place - 1] > index; --place) {
+      indices[place] = indices[place - 1];
+    }
+    indices[place] = index;
   }
-  void Sort() { std::sort(indices.begin(), indices.begin() + count); }
   bool operator==(const CornerSet& other) const { return count == other.count && indices == other.indices; }
 };
 
@@ -28,7 +32,6 @@ CornerSet CornersOf(const MemoryElement& solid, const SideShape& side) {
   for (std::int32_t i = 0; i < side.cornerCount; ++i) {
     corners.Add(solid.nodes[side.corners[i]]);
   }
-  corners.Sort();
   return corners;
 }
 
@@ -37,7 +40,6 @@ CornerSet CornersOf(const MemoryElement& shell) {
   for (std::int32_t i = 0; i < CornerCount(shell.typeIndex); ++i) {
     corners.Add(shell.nodes[i]);
   }
-  corners.Sort();
   return corners;
 }
 
