@@ -1,0 +1,26 @@
+// Decks of any size for the benchmarks.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace btz::bench {
+
+/// A deck on disk, removed at the end.
+class BenchDeck {
+ public:
+  /// Writes a square panel of about `cells` `CQUAD4` and as many `GRID`, in fields of 8 columns, with ten properties.
+  explicit BenchDeck(std::int32_t cells);
+  ~BenchDeck();
+  BenchDeck(const BenchDeck&) = delete;
+  BenchDeck& operator=(const BenchDeck&) = delete;
+
+  const std::string& Path() const { return path; }
+  std::int64_t Bytes() const { return bytes; }
+
+ private:
+  std::string path;
+  std::int64_t bytes = 0;
+};
+
+}  // namespace btz::bench
