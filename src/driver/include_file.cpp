@@ -74,9 +74,9 @@ std::int32_t ReadIncludeFile(CardContext& context) {
   }
   if (AllocateDeckBuffer(&run.include)) {
     AttachDeckStream(&run.include, stream);
-    if (ReadDeckChunk(&run.include) == 0) {
-      WalkDeckFile(&run, &run.include, *context.includeTable, nullptr);
-    }
+    // Whatever the first chunk is like, an empty one too: it is the walk that notices the file's end, and tells progress of it.
+    ReadDeckChunk(&run.include);
+    WalkDeckFile(&run, &run.include, *context.includeTable, nullptr);
   }
   std::fclose(stream);
   return 0;
