@@ -1,0 +1,217 @@
+#include "cli/model_summary.h"
+
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <unordered_map>
+
+#include "cli/display_text.h"
+#include "memory_host/memory_host.h"
+
+namespace btz::cli {
+
+namespace {
+
+using memory::EntityInfo;
+using memory::ObjectType;
+
+constexpr std::array<const char*, elementTypes> typeNames = {
+    "points",
+    "lines, 2 nodes",
+    "lines, 3 nodes",
+    "triangles, 3 nodes",
+    "triangles, 6 nodes",
+    "quadrilaterals, 4 nodes",
+    "quadrilaterals, 8 nodes",
+    "tetrahedra, 4 nodes",
+    "tetrahedra, 10 nodes",
+    "rigid elements",
+    "one-node elements",
+    "two-node connections",
+    "hexahedra, 8 nodes",
+    "wedges, 6 nodes",
+    "pyramids, 5 nodes",
+    "hexahedra, 20 nodes",
+    "wedges, 15 nodes",
+};
+
+/// Under which heading a kind of entity stands, and what it is called.
+struct EntityWords {
+  ObjectType type;
+  const char* title;
+  const char* kind;
+};
+
+/// In the order of the report.
+constexpr EntityWords entityWords[] = {
+    {ObjectType::CoordinateSystem, "coordinate systems", "systems"},
+    {ObjectType::NodeSystemAssignment, "coordinate systems", "assignments to nodes"},
+    {ObjectType::ForceLoad, "loads", "forces and moments"},
+    {ObjectType::Pressure, "loads", "pressures"},
+    {ObjectType::BodyLoad, "loads", "body loads"},
+    {ObjectType::Pretension, "loads", "pretensions"},
+    {ObjectType::ThermalLoad, "loads", "temperatures"},
+    {ObjectType::Flux, "loads", "heat fluxes"},
+    {ObjectType::Convection, "loads", "convections"},
+    {ObjectType::Excitation, "loads", "excitations"},
+    {ObjectType::Constraint, "constraints", "constraints"},
+    {ObjectType::Mpc, "constraints", "ties between nodes"},
+    {ObjectType::RigidConnection, "connections", "rigid connections"},
+    {ObjectType::Spring, "connections", "springs"},
+    {ObjectType::Bush, "connections", "bushes"},
+    {ObjectType::GapEntity, "connections", "gaps"},
+    {ObjectType::Damping, "connections", "dampings"},
+    {ObjectType::MassEntity, "masses", "masses"},
+    {ObjectType::PlotEntity, "plot elements", "plot elements"},
+    {ObjectType::EntitySet, "sets and surfaces", "sets"},
+    {ObjectType::Surface, "sets and surfaces", "surfaces"},
+};
+
+/// Items by kind, with the kinds in order of first use.
+class KindList {
+ public:
+  void Add(const std::string& kind, NamedItem item) {
+    auto found = std::find_if(kinds_.begin(), kinds_.end(), [&](const ItemKind& held) { return held.kind == kind; });
+    if (found == kinds_.end()) {
+      found = kinds_.insert(found, ItemKind{kind, {}});
+    }
+    found->items.push_back(std::move(item));
+  }
+
+  std::vector<ItemKind> Take() { return std::move(kinds_); }
+
+ private:
+  std::vector<ItemKind> kinds_;
+};
+
+std::string JoinWords(std::initializer_list<const wchar_t*> words) {
+  std::string text;
+  for (const wchar_t* word : words) {
+    if (*word != 0) {
+      text += text.empty() ? "" : ", ";
+      text += DisplayText(word);
+    }
+  }
+  return text.empty() ? "not described" : text;
+}
+
+const char* KindOf(ObjectType type) {
+  const auto* words =
+      std::find_if(std::begin(entityWords), std::end(entityWords), [type](const EntityWords& held) { return held.type == type; });
+  return words == std::end(entityWords) ? memory::TypeName(type) : words->kind;
+}
+
+NamedItem ItemOf(const EntityInfo& entity) { return {entity.shownId, DisplayText(entity.name)}; }
+
+/// Headings of the entities, in the order of the table, empty ones too.
+void AddEntityGroups(const memory::MemoryBoundaryStore& store, std::vector<ItemGroup>& groups) {
+  std::map<ObjectType, std::vector<NamedItem>> itemsByType;
+  for (const EntityInfo* entity : store.entities) {
+    itemsByType[entity->object.type].push_back(ItemOf(*entity));
+  }
+  const std::size_t firstGroup = groups.size();
+  for (const EntityWords& words : entityWords) {
+    if (groups.size() == firstGroup || groups.back().title != words.title) {
+      groups.push_back({words.title, {}});
+    }
+    std::vector<NamedItem>& items = itemsByType[words.type];
+    if (!items.empty()) {
+      groups.back().kinds.push_back({words.kind, std::move(items)});
+    }
+  }
+}
+
+ItemGroup PropertyGroup(const memory::MemoryMaterialStore& store) {
+  KindList kinds;
+  for (const memory::MemoryProperty& property : store.properties) {
+    const PropertyDescriptor& descriptor = property.descriptor;
+    kinds.Add(JoinWords({descriptor.propertyClass, descriptor.materialClass}), {property.id, DisplayText(property.name)});
+  }
+  return {"properties", kinds.Take()};
+}
+
+ItemGroup MaterialGroup(const memory::MemoryMaterialStore& store) {
+  KindList kinds;
+  for (const memory::MemoryMaterial& material : store.materials) {
+    const MaterialDescriptor& descriptor = material.descriptor;
+    kinds.Add(JoinWords({descriptor.symmetry, descriptor.behaviour, descriptor.family}), {material.number, DisplayText(descriptor.name)});
+  }
+  return {"materials", kinds.Take()};
+}
+
+ItemGroup FieldGroup(const memory::MemoryCurveStore& store) {
+  KindList kinds;
+  for (const memory::MemoryField& field : store.fields) {
+    kinds.Add(JoinWords({field.quantity.c_str()}), {field.id, DisplayText(field.name)});
+  }
+  return {"curves and fields", kinds.Take()};
+}
+
+ItemGroup ElementGroups(const memory::MemoryGroupStore& store) {
+  KindList kinds;
+  for (const memory::MemoryGroup& group : store.groups) {
+    if (!group.deleted) {
+      kinds.Add("groups of elements", {group.object.number, DisplayText(group.name)});
+    }
+  }
+  return {"element groups", kinds.Take()};
+}
+
+std::vector<LoadCaseSummary> LoadCases(const memory::MemoryBoundaryStore& store) {
+  std::unordered_map<const Entity*, const EntityInfo*> infoOf;
+  for (const EntityInfo* entity : store.entities) {
+    infoOf.emplace(entity->entity, entity);
+  }
+  std::vector<LoadCaseSummary> summaries;
+  for (const memory::MemoryLoadCase& loadCase : store.loadCases) {
+    KindList members;
+    for (const memory::MemoryLoadCase::Member& member : loadCase.members) {
+      const auto found = infoOf.find(member.entity);
+      if (found != infoOf.end()) {
+        members.Add(KindOf(found->second->object.type), ItemOf(*found->second));
+      }
+    }
+    summaries.push_back({DisplayText(loadCase.name), DisplayText(loadCase.solver), DisplayText(loadCase.analysis), members.Take()});
+  }
+  return summaries;
+}
+
+std::vector<PartSummary> Parts(const MemoryHost& host) {
+  std::vector<PartSummary> parts;
+  std::unordered_map<const memory::MemoryBody*, std::size_t> placeOf;
+  for (const memory::MemoryBody& body : host.Model().bodies) {
+    placeOf.emplace(&body, parts.size());
+    parts.push_back({body.id, body.number, DisplayText(body.name), body.rigid, static_cast<std::size_t>(body.faces.Size()), {}});
+  }
+  for (std::size_t i = 0; i < host.Elements().Size(); ++i) {
+    const memory::MemoryElement& element = host.Elements()[i];
+    const auto found = placeOf.find(element.body);
+    if (found != placeOf.end()) {
+      ++parts[found->second].elements.at(static_cast<std::size_t>(element.typeIndex));
+    }
+  }
+  return parts;
+}
+
+}  // namespace
+
+const char* ElementTypeName(std::size_t typeIndex) { return typeNames.at(typeIndex); }
+
+std::size_t Total(const ElementCounts& counts) { return std::accumulate(counts.begin(), counts.end(), std::size_t{0}); }
+
+ModelSummary SummariseModel(const MemoryHost& host) {
+  ModelSummary summary;
+  summary.nodes = host.Nodes().Size();
+  for (std::size_t i = 0; i < host.Elements().Size(); ++i) {
+    ++summary.elements.at(static_cast<std::size_t>(host.Elements()[i].typeIndex));
+  }
+  summary.parts = Parts(host);
+  summary.groups = {PropertyGroup(host.Materials()), MaterialGroup(host.Materials()), FieldGroup(host.Curves())};
+  AddEntityGroups(host.Boundary(), summary.groups);
+  summary.groups.push_back(ElementGroups(host.Groups()));
+  summary.loadCases = LoadCases(host.Boundary());
+  summary.isHandedOver = host.IsAttached();
+  return summary;
+}
+
+}  // namespace btz::cli

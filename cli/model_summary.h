@@ -1,0 +1,72 @@
+// What stands in the in-memory host after a run, counted and named for a report: plain data, which says nothing of how the host keeps it.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace btz::memory {
+class MemoryHost;
+}
+
+namespace btz::cli {
+
+inline constexpr std::size_t elementTypes = 17;  ///< Type indices 0 to 16.
+
+/// Number of elements of each type, by type index.
+using ElementCounts = std::array<std::size_t, elementTypes>;
+
+/// Name of an element type, in the plural: "quadrilaterals, 4 nodes".
+const char* ElementTypeName(std::size_t typeIndex);
+
+std::size_t Total(const ElementCounts& counts);
+
+struct PartSummary {
+  std::int32_t id = 0;
+  std::int32_t number = 0;  ///< Running number for display, 0 when the part was given none.
+  std::string name;
+  bool isRigid = false;
+  std::size_t faces = 0;
+  ElementCounts elements{};
+};
+
+/// One thing with a name: a property, a force, a set.
+struct NamedItem {
+  std::int32_t id = 0;
+  std::string name;
+};
+
+/// All things of one kind, "forces", in order of creation.
+struct ItemKind {
+  std::string kind;
+  std::vector<NamedItem> items;
+};
+
+/// A heading of the report, "loads", with the kinds of it that the model has.
+struct ItemGroup {
+  std::string title;
+  std::vector<ItemKind> kinds;
+};
+
+struct LoadCaseSummary {
+  std::string name;
+  std::string solver;
+  std::string analysis;
+  std::vector<ItemKind> members;  ///< Kinds of the entities that act in it.
+};
+
+struct ModelSummary {
+  std::size_t nodes = 0;
+  ElementCounts elements{};
+  std::vector<PartSummary> parts;
+  std::vector<ItemGroup> groups;  ///< All headings, in the report's order; empty ones have no kinds.
+  std::vector<LoadCaseSummary> loadCases;
+  bool isHandedOver = false;  ///< The host received the finished model.
+};
+
+/// Reads the host.
+ModelSummary SummariseModel(const memory::MemoryHost& host);
+
+}  // namespace btz::cli

@@ -1,0 +1,245 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "cli/exit_codes.h"
+#include "cli/report.h"
+
+namespace btz::cli {
+
+namespace {
+
+constexpr std::size_t labelWidth = 20;
+constexpr std::size_t mostNames = 4;   ///< Names shown of one kind.
+constexpr std::size_t mostLines = 10;  ///< Lines of the log shown that the digest has no place for.
+
+std::string Join(const std::vector<std::string>& parts) { return fmt::format("{}", fmt::join(parts, ", ")); }
+
+class TextReport {
+ public:
+  std::string Take() { return std::move(text_); }
+
+  void Blank() { text_ += '\n'; }
+
+  /// A heading with its value.
+  template <typename Value>
+  void Heading(const std::string& label, const Value& value) {
+    fmt::format_to(std::back_inserter(text_), "{:<{}}{}\n", label, labelWidth, value);
+  }
+
+  /// An indented line below a heading.
+  template <typename Value>
+  void Detail(const std::string& label, const Value& value) {
+    Heading("  " + label, value);
+  }
+
+  template <typename... Values>
+  void Line(fmt::format_string<Values...> format, Values&&... values) {
+    fmt::format_to(std::back_inserter(text_), format, std::forward<Values>(values)...);
+    text_ += '\n';
+  }
+
+ private:
+  std::string text_;
+};
+
+std::string SpeedText(const RunReport& report) {
+  if (report.seconds <= 0.0) {
+    return fmt::format("{:.3f} s", report.seconds);
+  }
+  return fmt::format("{:.3f} s, {:.1f} MB/s", report.seconds, static_cast<double>(report.deckBytes) / 1e6 / report.seconds);
+}
+
+/// "3 lines, 2 nodes; 120 quadrilaterals, 4 nodes".
+std::string CountsText(const ElementCounts& counts) {
+  std::vector<std::string> parts;
+  for (std::size_t type = 0; type < counts.size(); ++type) {
+    if (counts[type] != 0) {
+      parts.push_back(fmt::format("{} {}", counts[type], ElementTypeName(type)));
+    }
+  }
+  return parts.empty() ? "none" : fmt::format("{}", fmt::join(parts, "; "));
+}
+
+void AddMesh(TextReport& text, const ModelSummary& model) {
+  text.Heading("Nodes", model.nodes);
+  text.Heading("Elements", Total(model.elements));
+  for (std::size_t type = 0; type < model.elements.size(); ++type) {
+    if (model.elements[type] != 0) {
+      text.Line("  {:>{}}  {}", model.elements[type], labelWidth - 4, ElementTypeName(type));
+    }
+  }
+}
+
+std::string PartName(const PartSummary& part) {
+  std::string name = part.name.empty() ? "(no name)" : part.name;
+  return part.isRigid ? name + " (rigid body)" : name;
+}
+
+void AddParts(TextReport& text, const std::vector<PartSummary>& parts) {
+  if (parts.empty()) {
+    return;
+  }
+  text.Blank();
+  text.Heading("Parts", parts.size());
+  std::size_t nameWidth = 4;
+  for (const PartSummary& part : parts) {
+    nameWidth = std::max(nameWidth, PartName(part).size());
+  }
+  nameWidth = std::min<std::size_t>(nameWidth, 40);
+  text.Line("  {:>8}  {:>6}  {:<{}}  {}", "Id", "Number", "Name", nameWidth, "Elements");
+  for (const PartSummary& part : parts) {
+    const std::string number = part.number == 0 ? "-" : fmt::format("{}", part.number);
+    text.Line("  {:>8}  {:>6}  {:<{}}  {}", part.id, number, PartName(part), nameWidth, CountsText(part.elements));
+  }
+}
+
+/// The first names of a kind: "PointForce1, PointForce2, ...".
+std::string NamesText(const ItemKind& kind) {
+  std::vector<std::string> names;
+  for (const NamedItem& item : kind.items) {
+    if (names.size() == mostNames) {
+      names.push_back("...");
+      break;
+    }
+    names.push_back(item.name.empty() ? fmt::format("{}", item.id) : item.name);
+  }
+  return Join(names);
+}
+
+std::string Capitalised(std::string text) {
+  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') {
+    text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  }
+  return text;
+}
+
+std::size_t Total(const ItemGroup& group) {
+  std::size_t total = 0;
+  for (const ItemKind& kind : group.kinds) {
+    total += kind.items.size();
+  }
+  return total;
+}
+
+void AddGroup(TextReport& text, const ItemGroup& group) {
+  if (group.kinds.empty()) {
+    return;
+  }
+  text.Blank();
+  text.Heading(Capitalised(group.title), Total(group));
+  std::size_t kindWidth = labelWidth - 2;
+  for (const ItemKind& kind : group.kinds) {
+    kindWidth = std::max(kindWidth, kind.kind.size() + 2);
+  }
+  for (const ItemKind& kind : group.kinds) {
+    text.Line("  {:<{}}{:<6}  {}", kind.kind, kindWidth, kind.items.size(), NamesText(kind));
+  }
+}
+
+std::string MembersText(const LoadCaseSummary& loadCase) {
+  std::vector<std::string> parts;
+  for (const ItemKind& kind : loadCase.members) {
+    parts.push_back(fmt::format("{} {}", kind.items.size(), kind.kind));
+  }
+  return parts.empty() ? "empty" : Join(parts);
+}
+
+void AddLoadCases(TextReport& text, const std::vector<LoadCaseSummary>& loadCases) {
+  if (loadCases.empty()) {
+    return;
+  }
+  text.Blank();
+  text.Heading("Load cases", loadCases.size());
+  for (const LoadCaseSummary& loadCase : loadCases) {
+    text.Line("  {:<{}}{} {}: {}", loadCase.name.empty() ? "(no name)" : loadCase.name, labelWidth - 2, loadCase.solver, loadCase.analysis,
+              MembersText(loadCase));
+  }
+}
+
+/// One line for all that the model does not have.
+void AddMissing(TextReport& text, const ModelSummary& model) {
+  std::vector<std::string> missing;
+  if (model.parts.empty()) {
+    missing.push_back("parts");
+  }
+  for (const ItemGroup& group : model.groups) {
+    if (group.kinds.empty()) {
+      missing.push_back(group.title);
+    }
+  }
+  if (model.loadCases.empty()) {
+    missing.push_back("load cases");
+  }
+  if (!missing.empty()) {
+    text.Blank();
+    text.Heading("Not in the model", Join(missing));
+  }
+}
+
+std::string RefusalText(const Refusals& refusals) {
+  std::vector<std::string> ids;
+  for (const std::int32_t id : refusals.firstIds) {
+    ids.push_back(fmt::format("{}", id));
+  }
+  if (refusals.count > ids.size()) {
+    ids.push_back("...");
+  }
+  return fmt::format("{} x {}: {}", refusals.count, refusals.what, Join(ids));
+}
+
+std::string ReadText(const LogDigest& log) {
+  std::string text = fmt::format("{} nodes", log.nodesRead);
+  for (const CardCount& card : log.elementsRead) {
+    fmt::format_to(std::back_inserter(text), ", {} {}", card.count, card.what);
+  }
+  return text;
+}
+
+void AddLog(TextReport& text, const LogDigest& log) {
+  text.Blank();
+  if (!log.isPresent) {
+    text.Heading("Log", "none was written");
+    return;
+  }
+  text.Heading("Log", log.isComplete ? "complete" : "ends early");
+  text.Detail("cards read", ReadText(log));
+  if (!log.steps.empty()) {
+    text.Detail("steps", Join(log.steps));
+  }
+  for (const std::string& include : log.missingIncludes) {
+    text.Detail("not found", fmt::format("include file \"{}\"", include));
+  }
+  for (const Refusals& refusals : log.refusals) {
+    text.Detail("refused by host", RefusalText(refusals));
+  }
+  for (std::size_t i = 0; i < log.otherLines.size() && i < mostLines; ++i) {
+    text.Detail("said", log.otherLines[i]);
+  }
+  if (log.otherLines.size() > mostLines) {
+    text.Detail("said", fmt::format("... and {} more lines", log.otherLines.size() - mostLines));
+  }
+}
+
+}  // namespace
+
+std::string ReportText(const RunReport& report) {
+  TextReport text;
+  text.Heading("Deck", fmt::format("{}, {} bytes", report.deckName, report.deckBytes));
+  text.Heading("Result", fmt::format("{} ({})", ResultInWords(report.result), report.result));
+  text.Heading("Time", SpeedText(report));
+  text.Blank();
+  AddMesh(text, report.model);
+  AddParts(text, report.model.parts);
+  for (const ItemGroup& group : report.model.groups) {
+    AddGroup(text, group);
+  }
+  AddLoadCases(text, report.model.loadCases);
+  AddMissing(text, report.model);
+  AddLog(text, report.log);
+  return text.Take();
+}
+
+}  // namespace btz::cli

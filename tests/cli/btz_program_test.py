@@ -1,0 +1,442 @@
+"""End-to-end tests of the program btz: exit codes, streams, options and messages.
+
+    btz_program_test.py CASE PROGRAM...
+
+runs the test case CASE on the program, which may be a command of several words ("wine btz.exe").
+"""
+
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = sys.argv[2:]
+IS_WINDOWS = PROGRAM[-1].endswith(".exe")
+
+
+def card(*fields):
+    """A card in fields of eight columns."""
+    return "".join(str(field).ljust(8) for field in fields).rstrip() + "\n"
+
+
+NODES = (
+    card("GRID", 1, "", "0.0", "0.0", "0.0")
+    + card("GRID", 2, "", "1.0", "0.0", "0.0")
+    + card("GRID", 3, "", "0.0", "1.0", "0.0")
+)
+TRIANGLE = card("CTRIA3", 11, 7, 1, 2, 3)
+SMALL_DECK = NODES + TRIANGLE + "ENDDATA\n"
+
+
+class ProgramTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="btz_cli_")
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def write(self, name, text):
+        path = self.folder / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(text.encode())
+        return str(path)
+
+    def run_btz(self, *arguments, environment=None, cwd=None):
+        """Runs the program; its two outputs come as text, the messages with LF line ends."""
+        done = subprocess.run(
+            PROGRAM + list(arguments),
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            env={**os.environ, **(environment or {})},
+            cwd=cwd,
+            timeout=240,
+        )
+        done.stdout = done.stdout.decode()
+        done.stderr = done.stderr.decode().replace("\r\n", "\n")
+        return done
+
+    def trace(self, deck, *options):
+        done = self.run_btz("trace", *options, deck)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        return done.stdout.splitlines()
+
+
+class ExitCodes(ProgramTest):
+    def test_translated_is_0(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        self.assertEqual(self.run_btz("inspect", deck).returncode, 0)
+        self.assertEqual(self.run_btz("trace", deck).returncode, 0)
+
+    def test_no_nodes_is_1(self):
+        done = self.run_btz("inspect", self.write("no_nodes.bdf", TRIANGLE))
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("the deck holds no node (1)", done.stdout)
+
+    def test_no_elements_is_2(self):
+        done = self.run_btz("inspect", self.write("no_elements.bdf", NODES))
+        self.assertEqual(done.returncode, 2)
+        self.assertIn("the deck holds no element (2)", done.stdout)
+        self.assertRegex(done.stdout, r"(?m)^Nodes +3$")
+
+    def test_a_trace_ends_with_the_result_whatever_it_is(self):
+        for text, code, result in ((TRIANGLE, 1, 1), (NODES, 2, 2), ("nothing\n", 3, -5)):
+            done = self.run_btz("trace", self.write("deck.bdf", text))
+            self.assertEqual(done.returncode, code)
+            self.assertEqual(done.stdout.splitlines()[-1], f"= result {result}")
+
+    def test_an_unusable_deck_leaves_only_the_result_line(self):
+        done = self.run_btz("trace", str(self.folder / "none.bdf"))
+        self.assertEqual(done.returncode, 3)
+        self.assertEqual(done.stdout, "= result -5\n")
+
+
+class Streams(ProgramTest):
+    def test_the_librarys_console_output_is_not_in_the_result(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        for command in ("inspect", "trace"):
+            done = self.run_btz(command, deck)
+            self.assertNotIn("Completed", done.stdout)
+            self.assertNotIn("\b", done.stdout)
+            self.assertEqual(done.stderr, "")
+
+    def test_lines_end_with_lf_on_every_system(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        for command in ("inspect", "trace"):
+            self.assertNotIn("\r", self.run_btz(command, deck).stdout)
+
+    def test_two_traces_are_equal(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        self.assertEqual(self.run_btz("trace", deck).stdout, self.run_btz("trace", deck).stdout)
+
+    def test_no_bar_where_standard_error_is_no_terminal(self):
+        done = self.run_btz("inspect", "--progress", self.write("small.bdf", SMALL_DECK))
+        self.assertEqual(done.returncode, 0)
+        self.assertEqual(done.stderr, "")
+
+    @unittest.skipIf(IS_WINDOWS, "there is no full device")
+    def test_a_result_that_can_not_be_written_is_told(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        for command in ("inspect", "trace"):
+            with open("/dev/full", "wb") as full:
+                done = subprocess.run(PROGRAM + [command, deck], stdout=full, stderr=subprocess.PIPE, timeout=240)
+            self.assertEqual(done.returncode, 74)
+            self.assertEqual(done.stderr.decode().count("\n"), 1)
+
+
+class Usage(ProgramTest):
+    def assert_wrong(self, *arguments):
+        done = self.run_btz(*arguments)
+        self.assertEqual(done.returncode, 64, arguments)
+        self.assertEqual(done.stdout, "")
+        self.assertNotEqual(done.stderr, "")
+        return done.stderr
+
+    def test_command_and_deck_are_needed(self):
+        self.assert_wrong()
+        self.assert_wrong("inspect")
+        self.assert_wrong("translate", "deck.bdf")
+        self.assert_wrong("inspect", "one.bdf", "two.bdf")
+
+    def test_unknown_options_are_named(self):
+        self.assertIn("--quick", self.assert_wrong("inspect", "--quick", "deck.bdf"))
+        self.assert_wrong("inspect", "--all", "deck.bdf")
+        self.assert_wrong("trace", "--json", "deck.bdf")
+
+    def test_values_are_checked(self):
+        self.assertIn("--split-face", self.assert_wrong("inspect", "--split-face", "wide", "deck.bdf"))
+        self.assert_wrong("inspect", "--split-face", "nan", "deck.bdf")
+        self.assert_wrong("inspect", "--early-topology", "1.5", "deck.bdf")
+        self.assert_wrong("inspect", "--thickness-precision", "99999999999", "deck.bdf")
+        self.assertIn("--solver", self.assert_wrong("inspect", "--solver", "other", "deck.bdf"))
+        self.assertIn("--log-dir", self.assert_wrong("inspect", "--log-dir", str(self.folder / "none"), "deck.bdf"))
+
+    def test_help_tells_commands_options_and_exit_codes(self):
+        done = self.run_btz("--help")
+        self.assertEqual(done.returncode, 0)
+        self.assertEqual(done.stderr, "")
+        for word in ("inspect", "trace", "Exit codes", "64  wrong usage"):
+            self.assertIn(word, done.stdout)
+        for command in ("inspect", "trace"):
+            done = self.run_btz(command, "--help")
+            self.assertEqual(done.returncode, 0)
+            for word in ("--split-face", "--early-topology", "--thickness-precision", "--solver", "--no-group-store", "--repair",
+                         "--split-repair", "--log-dir", "--progress", "Exit codes"):
+                self.assertIn(word, done.stdout)
+
+    def test_version(self):
+        done = self.run_btz("--version")
+        self.assertEqual(done.returncode, 0)
+        self.assertRegex(done.stdout.replace("\r\n", "\n"), r"\Abtz \d+\.\d+\.\d+\n\Z")
+
+
+class UnusableDecks(ProgramTest):
+    def assert_reason(self, deck, reason):
+        done = self.run_btz("inspect", deck)
+        self.assertEqual(done.returncode, 3)
+        self.assertEqual(done.stdout, "")
+        self.assertEqual(done.stderr, f"btz: {deck}: {reason}\n")
+
+    def test_no_such_file(self):
+        self.assert_reason(str(self.folder / "none.bdf"), "no such file")
+
+    def test_a_folder(self):
+        self.assert_reason(str(self.folder), "is a directory")
+
+    def test_an_empty_file(self):
+        self.assert_reason(self.write("empty.bdf", ""), "the file is empty")
+
+    def test_a_file_that_is_no_deck(self):
+        self.assert_reason(self.write("letter.txt", "Dear reader\n"), "holds no node, element or include line")
+
+    def test_a_path_that_is_too_long(self):
+        self.assert_reason("d/" * 130 + "deck.bdf", "the path is longer than 259 characters")
+
+    @unittest.skipIf(IS_WINDOWS, "other kinds of files")
+    def test_what_is_no_file_at_all(self):
+        self.assert_reason("/dev/null", "is not a regular file")
+
+    @unittest.skipIf(IS_WINDOWS, "other permissions")
+    def test_permission_denied(self):
+        deck = self.write("secret.bdf", SMALL_DECK)
+        os.chmod(deck, 0)
+        if os.geteuid() == 0:
+            # Everything is open to root, so that the program has to be somebody else, who can reach program and deck.
+            os.chmod(self.folder, 0o755)
+            identity = {"user": 65534, "group": 65534, "extra_groups": []}
+        else:
+            identity = {}
+        try:
+            done = subprocess.run(PROGRAM + ["inspect", deck], capture_output=True, timeout=240, **identity)
+        except PermissionError:
+            self.skipTest("nobody but root can run the program where it lies")
+        self.assertEqual(done.returncode, 3)
+        self.assertEqual(done.stderr.decode(), f"btz: {deck}: permission denied\n")
+
+    def test_a_trace_says_the_same(self):
+        deck = str(self.folder / "none.bdf")
+        self.assertEqual(self.run_btz("trace", deck).stderr, f"btz: {deck}: no such file\n")
+
+
+class Options(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.deck = self.write("small.bdf", SMALL_DECK)
+
+    def position(self, lines, head):
+        """Place of the only line that begins with `head`."""
+        places = [i for i, line in enumerate(lines) if line.startswith(head)]
+        self.assertEqual(len(places), 1, head)
+        return places[0]
+
+    def test_topology_comes_last_without_options(self):
+        lines = self.trace(self.deck)
+        self.assertGreater(self.position(lines, "MeshModel.UpdateTopology(0)"), self.position(lines, "HostProject.AttachModel"))
+        self.position(lines, "MeshPart#1.SetNumber(")
+        self.assertEqual(lines[-1], "= result 0")
+
+    def test_early_topology_1_comes_first_and_leaves_the_numbers(self):
+        lines = self.trace(self.deck, "--early-topology", "1")
+        self.assertLess(self.position(lines, "MeshModel.UpdateTopology(0)"), self.position(lines, "MaterialStore.Commit()"))
+        self.assertFalse([line for line in lines if ".SetNumber(" in line])
+
+    def test_early_topology_of_another_value_means_none(self):
+        for value in ("2", "-1"):
+            lines = self.trace(self.deck, "--early-topology", value)
+            self.assertFalse([line for line in lines if ".UpdateTopology(" in line])
+
+    def test_faces_are_split_with_the_value_given(self):
+        self.assertFalse([line for line in self.trace(self.deck) if ".SplitFaces(" in line])
+        lines = self.trace(self.deck, "--split-face", "2.5")
+        self.assertIn("MeshPart#1.SplitFaces([TopoFace#1], 2.5, 0)", lines)
+        self.assertFalse([line for line in lines if ".MergeSplitPart(" in line])
+
+    def test_split_parts_are_merged_on_request(self):
+        lines = self.trace(self.deck, "--split-face", "2.5", "--split-repair")
+        self.assertIn("MeshModel.MergeSplitPart(MeshPart#1) -> 0", lines)
+
+    def test_repair_asks_for_defects(self):
+        asked = "MeshModel.CountDefects(3) -> 0"
+        self.assertNotIn(asked, self.trace(self.deck, "--all"))
+        self.assertIn(asked, self.trace(self.deck, "--all", "--repair"))
+
+    def test_all_adds_the_questions(self):
+        changes = self.trace(self.deck)
+        everything = self.trace(self.deck, "--all")
+        self.assertNotIn("MeshModel.NextPartId() -> 8", changes)
+        self.assertIn("MeshModel.NextPartId() -> 8", everything)
+        self.assertEqual([line for line in everything if line in changes], changes)
+
+    def test_the_other_options_are_taken(self):
+        lines = self.trace(self.deck, "--solver", "radioss", "--thickness-precision", "3", "--no-group-store")
+        self.assertEqual(lines[-1], "= result 0")
+        self.trace(self.deck, "--solver", "NASTRAN")
+
+
+class Log(ProgramTest):
+    LOG = "Bdf_Reader_Log.txt"
+
+    def test_log_dir_keeps_the_log(self):
+        logs = self.folder / "logs"
+        logs.mkdir()
+        deck = self.write("small.bdf", SMALL_DECK)
+        self.assertEqual(self.run_btz("inspect", "--log-dir", str(logs), deck).returncode, 0)
+        text = (logs / self.LOG).read_bytes().decode().replace("\r\n", "\n")
+        self.assertRegex(text, r"\A\nFile Reading Started : \d+:\d+:\d+\nNode Reading Started\n\n")
+        self.assertIn("\nTotal Nodes Readed -> 3\n", text)
+        self.assertTrue(text.endswith("\n...........Log File Ended.........."))
+
+    def test_without_it_nothing_is_left_behind(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        home = self.folder / "home"
+        temporary = self.folder / "temporary"
+        for folder in (home, temporary):
+            folder.mkdir()
+        (home / self.LOG).write_text("kept")
+        # TMPDIR on the one system, TMP on the other.
+        environment = {"CAE_HOME": str(home), "QX_SCRATCH_DIR": str(home), "TMPDIR": str(temporary)}
+        if not IS_WINDOWS:
+            environment["TMP"] = str(temporary)
+        self.assertEqual(self.run_btz("inspect", deck, environment=environment).returncode, 0)
+        self.assertEqual((home / self.LOG).read_text(), "kept")
+        self.assertEqual(list(temporary.iterdir()), [])
+
+    @unittest.skipIf(IS_WINDOWS, "the temporary folder is found otherwise")
+    def test_without_any_folder_the_users_log_stays_untouched(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        (self.folder / self.LOG).write_text("kept")
+        environment = {"CAE_HOME": str(self.folder), "TMPDIR": str(self.folder / "none")}
+        done = self.run_btz("inspect", deck, environment=environment)
+        self.assertEqual(done.returncode, 0)
+        self.assertEqual((self.folder / self.LOG).read_text(), "kept")
+        self.assertRegex(done.stdout, r"(?m)^Log +none was written$")
+
+    def test_what_the_log_said_is_in_the_report(self):
+        # The second CTRIA3 has the id of the first, and the third has no node 9.
+        text = NODES + TRIANGLE * 2 + card("CTRIA3", 12, 7, 1, 2, 9) + "include 'gone.bdf'\n"
+        done = self.run_btz("inspect", self.write("faulty.bdf", text))
+        self.assertEqual(done.returncode, 0)
+        self.assertRegex(done.stdout, r"(?m)^  refused by host +2 x Tri3 Element: 11, 12$")
+        self.assertRegex(done.stdout, r'(?m)^  not found +include file "gone.bdf"$')
+
+
+class Report(ProgramTest):
+    DECK = (
+        NODES
+        + card("GRID", 4, "", "1.0", "1.0", "0.0")
+        + card("GRID", 5, "", "0.0", "0.0", "1.0")
+        + card("GRID", 6, "", "2.0", "0.0", "0.0")
+        + TRIANGLE
+        + card("CQUAD4", 12, 7, 1, 2, 4, 3)
+        + card("CTETRA", 21, 8, 1, 2, 3, 5)
+        + card("CTRIA3", 13, 9, 2, 6, 4)
+        + "ENDDATA\n"
+    )
+
+    def test_counts_of_nodes_elements_and_parts(self):
+        done = self.run_btz("inspect", self.write("parts.bdf", self.DECK))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        for line in (
+            rf"Deck +parts\.bdf, {len(self.DECK)} bytes",
+            r"Result +translated \(0\)",
+            r"Nodes +6",
+            r"Elements +4",
+            r" +2  triangles, 3 nodes",
+            r" +1  quadrilaterals, 4 nodes",
+            r" +1  tetrahedra, 4 nodes",
+            r"Parts +3",
+            r" +7 +\d+  Body 7 +1 triangles, 3 nodes; 1 quadrilaterals, 4 nodes",
+            r" +8 +\d+  Body 8 +1 tetrahedra, 4 nodes",
+            r" +9 +\d+  Body 9 +1 triangles, 3 nodes",
+        ):
+            self.assertRegex(done.stdout, f"(?m)^{line}$")
+
+    def test_json_holds_the_same(self):
+        done = self.run_btz("inspect", "--json", self.write("parts.bdf", self.DECK))
+        report = json.loads(done.stdout)
+        self.assertEqual(report["deck"], {"name": "parts.bdf", "bytes": len(self.DECK)})
+        self.assertEqual(report["result"]["code"], 0)
+        self.assertEqual(report["model"]["nodes"], 6)
+        self.assertEqual(
+            report["model"]["elements"], {"triangles, 3 nodes": 2, "quadrilaterals, 4 nodes": 1, "tetrahedra, 4 nodes": 1}
+        )
+        self.assertEqual([part["id"] for part in report["model"]["parts"]], [7, 8, 9])
+        self.assertTrue(report["model"]["handedOver"])
+        self.assertEqual(report["log"]["nodesRead"], 6)
+
+
+class Paths(ProgramTest):
+    def test_a_name_in_any_script(self):
+        deck = self.write("Flügel_翼.bdf", SMALL_DECK)
+        done = self.run_btz("inspect", deck)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertIn("Flügel_翼.bdf", done.stdout)
+
+    def test_a_name_without_a_folder_finds_its_include_files(self):
+        self.write("main.bdf", "include 'nodes.inc'\n" + TRIANGLE)
+        self.write("nodes.inc", NODES)
+        done = self.run_btz("inspect", "main.bdf", cwd=self.folder)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertRegex(done.stdout, r"(?m)^Nodes +3$")
+
+    def test_the_trace_names_no_folder(self):
+        deck = self.write("small.bdf", SMALL_DECK)
+        lines = self.trace(deck)
+        self.assertIn('MeshModel.SetSourcePath("small.bdf")', lines)
+        self.assertFalse([line for line in lines if str(self.folder) in line])
+
+    def test_a_log_folder_in_any_script(self):
+        logs = self.folder / "Läufe"
+        logs.mkdir()
+        done = self.run_btz("inspect", "--log-dir", str(logs), self.write("small.bdf", SMALL_DECK))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertTrue((logs / Log.LOG).is_file())
+
+
+@unittest.skipIf(IS_WINDOWS, "needs a terminal")
+class Progress(ProgramTest):
+    def run_on_terminal(self, *arguments):
+        """Runs the program with a terminal for its standard error; gives its exit code, its result, and what the terminal showed."""
+        import pty
+
+        reader, writer = pty.openpty()
+        self.addCleanup(os.close, reader)
+        with subprocess.Popen(PROGRAM + list(arguments), stdout=subprocess.PIPE, stderr=writer) as program:
+            os.close(writer)
+            shown = b""
+            while True:
+                try:
+                    block = os.read(reader, 4096)
+                except OSError:  # The other end is closed.
+                    break
+                if not block:
+                    break
+                shown += block
+            result = program.stdout.read().decode()
+        return program.returncode, result, shown.decode()
+
+    def test_the_bar_ends_full_and_the_word_is_gone(self):
+        word = pathlib.Path("/dev/shm/KRT_PROGRESS")
+        existed = word.exists()
+        code, result, shown = self.run_on_terminal("inspect", "--progress", self.write("small.bdf", SMALL_DECK))
+        self.assertEqual(code, 0)
+        self.assertIn("[" + "#" * 40 + "] 100%", shown)
+        self.assertTrue(shown.endswith("\n"))
+        self.assertNotIn("#", result)
+        self.assertNotIn("Completed", result + shown)
+        self.assertEqual(word.exists(), existed)
+
+    def test_a_failed_run_does_not_fill_the_bar(self):
+        code, _, shown = self.run_on_terminal("inspect", "--progress", str(self.folder / "none.bdf"))
+        self.assertEqual(code, 3)
+        self.assertNotIn("100%", shown)
+        self.assertIn("no such file", shown)
+
+    def test_no_bar_unasked(self):
+        _, _, shown = self.run_on_terminal("inspect", self.write("small.bdf", SMALL_DECK))
+        self.assertEqual(shown, "")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:2], verbosity=1)
