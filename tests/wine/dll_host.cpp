@@ -32,6 +32,7 @@ struct Arguments {
   bool hasGroupStore = true;
   std::uint8_t repairMesh = 0;
   std::uint8_t splitFaceRepair = 0;
+  btz::TraceSink::Coverage coverage = btz::TraceSink::Coverage::Changes;
 };
 
 bool ParseArguments(int count, char** values, Arguments* arguments) {
@@ -49,6 +50,8 @@ bool ParseArguments(int count, char** values, Arguments* arguments) {
       arguments->repairMesh = 1;
     } else if (option == "--split-repair") {
       arguments->splitFaceRepair = 1;
+    } else if (option == "--all") {
+      arguments->coverage = btz::TraceSink::Coverage::All;
     } else if (index + 1 >= count - 1) {
       return false;
     } else if (option == "--split-face") {
@@ -110,7 +113,7 @@ bool Run(EntryPoint translate, const Arguments& arguments, const std::string& tr
     return false;
   }
   btz::MemoryHost host;
-  btz::TraceSink sink(file);
+  btz::TraceSink sink(file, arguments.coverage);
   host.SetTrace(&sink);
   if (progress != nullptr) {
     host.SetHook([progress](const char*, const char*) { progress->Sample(); });

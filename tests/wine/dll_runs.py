@@ -32,11 +32,16 @@ def windows_path(path):
 
 
 def variant_options(name):
-    """The options in a variant's name: `early_topology=1.no_group_store` gives ["--early-topology", "1", "--no-group-store"]."""
+    """The options in a variant's name: `early_topology=1.group_store=0.repair=1` gives ["--early-topology", "1", "--no-group-store", "--repair"]."""
     options = []
-    for part in re.findall(r"[a-z_]+(?:=-?\w+(?:\.\d+)?)?", name):
-        key, _, value = part.partition("=")
-        options += ["--" + key.replace("_", "-")] + ([value] if value else [])
+    for key, value in re.findall(r"([a-z_]+)=(-?\w+(?:\.\d+)?)", name):
+        option = "--" + key.replace("_", "-")
+        if key in {"all", "repair", "split_repair"}:
+            options += [option] if value == "1" else []
+        elif key == "group_store":
+            options += ["--no-group-store"] if value == "0" else []
+        else:
+            options += [option, value]
     return options
 
 
