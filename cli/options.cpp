@@ -63,6 +63,7 @@ CommandLine ParseCommandLine(std::vector<std::string> arguments) {
   CommandLine line;
   CLI::App app("Translates a NASTRAN bulk data deck into a host that keeps the model in memory, and shows what came of it.", "btz");
   app.footer(exitCodeHelp);
+  app.allow_windows_style_options(false);  // Paths begin with a slash on some systems.
   app.require_subcommand(1);
   app.set_version_flag("--version", "btz " BTZ_VERSION);
 

@@ -12,10 +12,32 @@ namespace btz::cli {
 namespace {
 
 constexpr std::size_t labelWidth = 20;
+constexpr std::size_t widestLine = 100;
 constexpr std::size_t mostNames = 4;   ///< Names shown of one kind.
 constexpr std::size_t mostLines = 10;  ///< Lines of the log shown that the digest has no place for.
 
 std::string Join(const std::vector<std::string>& parts) { return fmt::format("{}", fmt::join(parts, ", ")); }
+
+/// The same on as many lines as it takes; those behind the first begin under it.
+std::string JoinWrapped(const std::vector<std::string>& parts) {
+  std::string text;
+  std::size_t column = labelWidth;
+  for (const std::string& part : parts) {
+    if (!text.empty()) {
+      text += ',';
+      if (column + 2 + part.size() > widestLine) {
+        text += '\n' + std::string(labelWidth, ' ');
+        column = labelWidth;
+      } else {
+        text += ' ';
+        column += 2;
+      }
+    }
+    text += part;
+    column += part.size();
+  }
+  return text;
+}
 
 class TextReport {
  public:
@@ -175,7 +197,7 @@ void AddMissing(TextReport& text, const ModelSummary& model) {
   }
   if (!missing.empty()) {
     text.Blank();
-    text.Heading("Not in the model", Join(missing));
+    text.Heading("Not in the model", JoinWrapped(missing));
   }
 }
 
@@ -207,7 +229,7 @@ void AddLog(TextReport& text, const LogDigest& log) {
   text.Heading("Log", log.isComplete ? "complete" : "ends early");
   text.Detail("cards read", ReadText(log));
   if (!log.steps.empty()) {
-    text.Detail("steps", Join(log.steps));
+    text.Detail("steps", JoinWrapped(log.steps));
   }
   for (const std::string& include : log.missingIncludes) {
     text.Detail("not found", fmt::format("include file \"{}\"", include));

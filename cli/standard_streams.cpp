@@ -21,7 +21,11 @@ int Duplicate(int descriptor) { return _dup(descriptor); }
 bool Redirect(int from, int to) { return _dup2(from, to) == 0; }
 void CloseDescriptor(int descriptor) { _close(descriptor); }
 int OpenNullDevice() { return _open("NUL", _O_WRONLY | _O_BINARY); }
-std::FILE* StreamOf(int descriptor) { return _fdopen(descriptor, "wb"); }
+std::FILE* StreamOf(int descriptor) {
+  // Not every runtime takes the mode from here alone.
+  _setmode(descriptor, _O_BINARY);
+  return _fdopen(descriptor, "wb");
+}
 bool IsTerminal(int descriptor) { return _isatty(descriptor) != 0; }
 #else
 int Duplicate(int descriptor) { return dup(descriptor); }

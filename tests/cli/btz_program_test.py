@@ -8,9 +8,11 @@ runs the test case CASE on the program, which may be a command of several words 
 import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 PROGRAM = sys.argv[2:]
@@ -287,6 +289,18 @@ class Log(ProgramTest):
         self.assertIn("\nTotal Nodes Readed -> 3\n", text)
         self.assertTrue(text.endswith("\n...........Log File Ended.........."))
 
+    @staticmethod
+    def lasting_temporaries():
+        """Temporary folders of the program that stay. Other tests may have theirs for a moment."""
+        users = pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c" / "users"
+        found = list(users.glob("*/Temp/btz-*")) + list(users.glob("*/AppData/Local/Temp/btz-*"))
+        for _ in range(100):
+            found = [folder for folder in found if folder.exists()]
+            if not found:
+                break
+            time.sleep(0.1)
+        return found
+
     def test_without_it_nothing_is_left_behind(self):
         deck = self.write("small.bdf", SMALL_DECK)
         home = self.folder / "home"
@@ -294,12 +308,28 @@ class Log(ProgramTest):
         for folder in (home, temporary):
             folder.mkdir()
         (home / self.LOG).write_text("kept")
-        # TMPDIR on the one system, TMP on the other.
-        environment = {"CAE_HOME": str(home), "QX_SCRATCH_DIR": str(home), "TMPDIR": str(temporary)}
+        environment = {"CAE_HOME": str(home), "QX_SCRATCH_DIR": str(home)}
         if not IS_WINDOWS:
-            environment["TMP"] = str(temporary)
+            environment["TMPDIR"] = str(temporary)
         self.assertEqual(self.run_btz("inspect", deck, environment=environment).returncode, 0)
         self.assertEqual((home / self.LOG).read_text(), "kept")
+        self.assertEqual(list(temporary.iterdir()), [])
+        if IS_WINDOWS:
+            self.assertEqual(self.lasting_temporaries(), [])
+
+    @unittest.skipIf(IS_WINDOWS, "other signals")
+    def test_a_reader_that_ends_early_leaves_nothing_behind_either(self):
+        # More lines than a pipe and the program's own buffer hold.
+        deck = self.write("long.bdf", "".join(card("GRID", i, "", "0.0", "0.0", "0.0") for i in range(1, 5001)))
+        temporary = self.folder / "temporary"
+        temporary.mkdir()
+        reader, writer = os.pipe()
+        os.close(reader)
+        environment = {**os.environ, "TMPDIR": str(temporary)}
+        done = subprocess.run(PROGRAM + ["trace", deck], stdout=writer, stderr=subprocess.PIPE, env=environment, timeout=240)
+        os.close(writer)
+        self.assertEqual(done.returncode, -signal.SIGPIPE)
+        self.assertEqual(done.stderr, b"")
         self.assertEqual(list(temporary.iterdir()), [])
 
     @unittest.skipIf(IS_WINDOWS, "the temporary folder is found otherwise")
