@@ -128,6 +128,7 @@ void ExpectTheSameChunks(const std::string& content, std::mt19937& random) {
   ASSERT_TRUE(AllocateDeckBuffer(&deck));
   AttachDeckStream(&deck, stream);
   PlainChunks plain(content);
+  const bool holdsNul = content.find('\0') != std::string::npos;
   for (int call = 0; call < 20; ++call) {
     const int result = plain.Read();
     ASSERT_EQ(ReadDeckChunk(&deck), result) << "call " << call;
@@ -135,7 +136,7 @@ void ExpectTheSameChunks(const std::string& content, std::mt19937& random) {
     ASSERT_TRUE(std::string_view(deck.block) == plain.Text()) << "call " << call;
     ASSERT_STREQ(deck.carry, plain.carry.c_str()) << "call " << call;
     for (std::size_t i = plain.Text().size(); i < deckBlockSize; i += 1 + random() % 64) {
-      ASSERT_TRUE(deck.block[i] == 0 || std::memchr(content.data(), 0, content.size()) != nullptr) << "stale byte at " << i;
+      ASSERT_TRUE(deck.block[i] == 0 || holdsNul) << "stale byte at " << i;
     }
     if (result == 1) {
       break;
