@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <map>
 
 #include "cli/exit_codes.h"
 #include "cli/paths.h"
@@ -34,7 +33,9 @@ std::string CheckFolder(const std::string& text) {
 }
 
 void AddRunOptions(CLI::App& command, Options& options) {
-  command.add_option("DECK", options.deckPath, "NASTRAN bulk data deck; include files are looked for from its folder")->required();
+  command.add_option("DECK", options.deckPath, "NASTRAN bulk data deck; include files are looked for from its folder")
+      ->option_text("(REQUIRED)")
+      ->required();
   command.add_option("--split-face", options.splitFaceValue, "Above 0: have the host split the faces of parts, with this value")
       ->option_text("VALUE (0)")
       ->check(CheckNumber);
@@ -44,9 +45,12 @@ void AddRunOptions(CLI::App& command, Options& options) {
       ->option_text("N (0)");
   command.add_option("--thickness-precision", options.thicknessPrecision, "Decimals to which shell thicknesses are rounded")
       ->option_text("N (0)");
-  command.add_option("--solver", options.targetSolver, "Solver for which load cases are made")
+  command
+      .add_option_function<std::string>(
+          "--solver", [&options](const std::string& name) { options.targetSolver = CLI::detail::to_lower(name) == "radioss" ? 1 : 0; },
+          "Solver for which load cases are made")
       ->option_text("nastran|radioss (nastran)")
-      ->transform(CLI::CheckedTransformer(std::map<std::string, std::int32_t>{{"nastran", 0}, {"radioss", 1}}, CLI::ignore_case));
+      ->check(CLI::IsMember({"nastran", "radioss"}, CLI::ignore_case));
   command.add_flag_callback(
       "--no-group-store", [&options] { options.hasGroupStore = false; }, "Give the library no store for groups");
   command.add_flag("--repair", options.isRepairWanted, "Have the host repair the defects that it counts in the mesh");
@@ -63,6 +67,7 @@ CommandLine ParseCommandLine(std::vector<std::string> arguments) {
   CommandLine line;
   CLI::App app("Translates a NASTRAN bulk data deck into a host that keeps the model in memory, and shows what came of it.", "btz");
   app.footer(exitCodeHelp);
+  app.get_formatter()->column_width(40);
   app.allow_windows_style_options(false);  // Paths begin with a slash on some systems.
   app.require_subcommand(1);
   app.set_version_flag("--version", "btz " BTZ_VERSION);

@@ -152,6 +152,7 @@ class Usage(ProgramTest):
         self.assert_wrong("inspect", "--early-topology", "1.5", "deck.bdf")
         self.assert_wrong("inspect", "--thickness-precision", "99999999999", "deck.bdf")
         self.assertIn("--solver", self.assert_wrong("inspect", "--solver", "other", "deck.bdf"))
+        self.assert_wrong("inspect", "--solver", "1", "deck.bdf")
         self.assertIn("--log-dir", self.assert_wrong("inspect", "--log-dir", str(self.folder / "none"), "deck.bdf"))
 
     def test_help_tells_commands_options_and_exit_codes(self):
