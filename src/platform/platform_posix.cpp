@@ -38,7 +38,7 @@ class PosixPlatform final : public Platform {
  public:
   std::FILE* OpenFile(const char* path, const char* mode) override {
     char systemPath[longestPath];
-    if (!ToSystemPath(path, systemPath)) {
+    if (path == nullptr || !ToSystemPath(path, systemPath)) {
       return nullptr;
     }
     struct stat status;
