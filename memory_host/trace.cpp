@@ -1,9 +1,9 @@
 #include "memory_host/trace.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 
 #include "memory_host/element_shapes.h"
 #include "memory_host/host_context.h"
@@ -209,81 +209,44 @@ void ValueWriter::Write(Object object) {
   text_ += known == nullptr ? "unknown" : known->Name();
 }
 
-void ValueWriter::Write(Nodes nodes) {
-  if (nodes.list == nullptr) {
+template <typename WriteValue>
+void ValueWriter::WriteList(const PooledList* list, WriteValue writeValue) {
+  if (list == nullptr) {
     WriteNull();
     return;
   }
   text_ += '[';
   const char* separator = "";
-  ForEachValue(nodes.list, [&](void* value) {
+  ForEachValue(list, [&](void* value) {
     text_ += separator;
-    Write(static_cast<const MeshNode*>(value));
+    writeValue(value);
     separator = ", ";
   });
   text_ += ']';
+}
+
+void ValueWriter::Write(Nodes nodes) {
+  WriteList(nodes.list, [this](void* value) { Write(static_cast<const MeshNode*>(value)); });
 }
 
 void ValueWriter::Write(Elements elements) {
-  if (elements.list == nullptr) {
-    WriteNull();
-    return;
-  }
-  text_ += '[';
-  const char* separator = "";
-  ForEachValue(elements.list, [&](void* value) {
-    text_ += separator;
-    Write(static_cast<const MeshElement*>(value));
-    separator = ", ";
-  });
-  text_ += ']';
+  WriteList(elements.list, [this](void* value) { Write(static_cast<const MeshElement*>(value)); });
 }
 
 void ValueWriter::Write(Objects objects) {
-  if (objects.list == nullptr) {
-    WriteNull();
-    return;
-  }
-  text_ += '[';
-  const char* separator = "";
-  ForEachValue(objects.list, [&](void* value) {
-    text_ += separator;
-    Write(Object{value});
-    separator = ", ";
-  });
-  text_ += ']';
+  WriteList(objects.list, [this](void* value) { Write(Object{value}); });
 }
 
 void ValueWriter::Write(Ids ids) {
-  if (ids.list == nullptr) {
-    WriteNull();
-    return;
-  }
-  text_ += '[';
-  const char* separator = "";
-  ForEachValue(ids.list, [&](void* value) {
-    text_ += separator;
-    Write(*static_cast<const std::int32_t*>(value));
-    separator = ", ";
-  });
-  text_ += ']';
+  WriteList(ids.list, [this](void* value) { Write(*static_cast<const std::int32_t*>(value)); });
 }
 
 void ValueWriter::Write(Rows rows) {
-  if (rows.list == nullptr) {
-    WriteNull();
-    return;
-  }
-  text_ += '[';
-  const char* separator = "";
-  ForEachValue(rows.list, [&](void* value) {
-    text_ += separator;
+  WriteList(rows.list, [this, rows](void* value) {
     text_ += '[';
     WriteArray(static_cast<const double*>(value), rows.columns);
     text_ += ']';
-    separator = ", ";
   });
-  text_ += ']';
 }
 
 void ValueWriter::WriteArray(const double* numbers, std::int32_t count) {
@@ -364,8 +327,10 @@ void ValueWriter::Write(ElementNodeIds nodes) {
     WriteNull();
     return;
   }
-  const std::int32_t count =
-      nodes.typeIndex == rigidType ? std::int64_t{nodes.ids[0]} < 0 ? 1 : nodes.ids[0] + 1 : NodeCount(nodes.typeIndex);
+  std::int32_t count = NodeCount(nodes.typeIndex);
+  if (nodes.typeIndex == rigidType) {
+    count = std::max(nodes.ids[0], 0) + 1;
+  }
   text_ += '[';
   for (std::int32_t i = 0; i < count; ++i) {
     text_ += i == 0 ? "" : ", ";

@@ -113,6 +113,8 @@ class ValueWriter {
   void WriteNull() { text_ += "null"; }
   void WriteCharacter(std::uint32_t character, bool quoted);
   void WriteUnquoted(const char* text);
+  template <typename WriteValue>
+  void WriteList(const PooledList* list, WriteValue writeValue);
   void WriteNamedValue(const NamedValue& value);
   void WriteArray(const double* numbers, std::int32_t count);
 

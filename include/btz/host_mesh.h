@@ -163,7 +163,7 @@ class MeshPart : public TopoEntity {
   /// Enters `face`, made under this part by MeshModel::CreateTopoEntity, among its faces; `mode` is always 1. [pass 2-3]
   virtual void AddFace(TopoFace* face, std::uint8_t mode) = 0;
 
-  /// True when the part holds solid or gasket elements. [stage] [after]
+  /// True when the part holds solid or gasket elements. [stage]
   virtual bool IsSolid() = 0;
 
   /// Splits the listed TopoFace* of this part where their surface bends by more than `value`; `flags` is always 0. [after]
