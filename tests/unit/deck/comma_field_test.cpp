@@ -44,8 +44,8 @@ struct CommaResult {
   std::size_t place;
 
   friend bool operator==(const CommaResult&, const CommaResult&) = default;
-  friend void PrintTo(const CommaResult& result, std::ostream* out) {
-    *out << result.result << " \"" << result.field << "\" at " << result.place;
+  friend void PrintTo(const CommaResult& read, std::ostream* out) {
+    *out << read.result << " \"" << read.field << "\" at " << read.place;
   }
 };
 
