@@ -44,9 +44,7 @@ struct CommaResult {
   std::size_t place;
 
   friend bool operator==(const CommaResult&, const CommaResult&) = default;
-  friend void PrintTo(const CommaResult& read, std::ostream* out) {
-    *out << read.result << " \"" << read.field << "\" at " << read.place;
-  }
+  friend void PrintTo(const CommaResult& read, std::ostream* out) { *out << read.result << " \"" << read.field << "\" at " << read.place; }
 };
 
 CommaResult Read(const std::string& content, std::size_t place = 0) {
