@@ -8,10 +8,28 @@ namespace btz::memory {
 
 namespace {
 
-/// What the translator may still call once the host has the model: topology, mending, splitting.
-constexpr std::array<std::string_view, 10> afterHandOver = {"UpdateTopology", "CountDefects",  "RepairDefects", "GetFaceList",
-                                                            "GetMesh",        "GetElements",   "SplitFaces",    "GetParts",
-                                                            "HasMesh",        "MergeSplitPart"};
+struct Operation {
+  ObjectType type;
+  std::string_view name;
+};
+
+/// What the translator may still call once the host has the model: topology, mending, splitting. By type too, since entities have parts and
+/// solids have elements as well, and those are settled by then.
+constexpr std::array<Operation, 10> afterHandOver = {{{ObjectType::MeshModel, "UpdateTopology"},
+                                                      {ObjectType::MeshModel, "CountDefects"},
+                                                      {ObjectType::MeshModel, "RepairDefects"},
+                                                      {ObjectType::MeshModel, "GetParts"},
+                                                      {ObjectType::MeshModel, "MergeSplitPart"},
+                                                      {ObjectType::MeshPart, "HasMesh"},
+                                                      {ObjectType::MeshPart, "GetFaceList"},
+                                                      {ObjectType::MeshPart, "SplitFaces"},
+                                                      {ObjectType::TopoFace, "GetMesh"},
+                                                      {ObjectType::FaceMesh, "GetElements"}}};
+
+bool IsAllowedAfterHandOver(ObjectType type, std::string_view operation) {
+  return std::any_of(afterHandOver.begin(), afterHandOver.end(),
+                     [&](const Operation& allowed) { return allowed.type == type && allowed.name == operation; });
+}
 
 void StopProgram(const std::string& message) {
   std::fprintf(stderr, "%s\n", message.c_str());
@@ -106,7 +124,7 @@ void Call::Announce() {
   if (context.hook) {
     context.hook(type, operation_);
   }
-  if (context.handedOver && std::find(afterHandOver.begin(), afterHandOver.end(), operation_) == afterHandOver.end()) {
+  if (context.handedOver && !IsAllowedAfterHandOver(object_.type, operation_)) {
     Fault("the model was handed over already");
   }
   if (context.refusals.IsActive()) {
