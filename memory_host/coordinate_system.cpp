@@ -88,6 +88,11 @@ void MemoryCoordinateSystem::SetKind(std::int32_t value) {
   kind = value;
 }
 
-void MemoryCoordinateSystem::SetModels(MeshModel* a, MeshModel* b, MeshModel* c) { Told("SetModels", Object{a}, Object{b}, Object{c}); }
+void MemoryCoordinateSystem::SetModels(MeshModel* a, MeshModel* b, MeshModel* c) {
+  Told("SetModels", Object{a}, Object{b}, Object{c});
+  for (MeshModel* model : {a, b, c}) {
+    Accept(object, "SetModels", model);
+  }
+}
 
 }  // namespace btz::memory

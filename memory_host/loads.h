@@ -268,6 +268,7 @@ class MemoryPretension final : public EntityBase<Pretension> {
     ForceLoad* givenForce = force == nullptr ? nullptr : *force;
     Constraint* givenConstraint = constraint == nullptr ? nullptr : *constraint;
     Told("AddPart", Object{part}, step, value, Object{store}, Object{givenForce}, Object{givenConstraint});
+    Accept(object, "AddPart", store);
     cuts.push_back({Accept(object, "AddPart", part), step == nullptr ? CutPartStep{0, 0} : *step, value,
                     Accept(object, "AddPart", givenForce), Accept(object, "AddPart", givenConstraint)});
   }

@@ -145,7 +145,10 @@ void MemoryFace::SetRigidFaceId(std::int32_t faceId, std::int32_t mode, std::int
   Call(object, "SetRigidFaceId").Arguments(faceId, mode, flags);
 }
 
-void MemoryFace::AddFace(TopoFace* face, std::uint8_t mode) { Call(object, "AddFace").Arguments(Object{face}, mode); }
+void MemoryFace::AddFace(TopoFace* face, std::uint8_t mode) {
+  Call(object, "AddFace").Arguments(Object{face}, mode);
+  Accept(object, "AddFace", face);
+}
 
 void MemoryFace::CreateFaces(PooledList* elements, PooledList* faceNumbers, PooledList* result, MeshPart** outPart) {
   Call call(object, "CreateFaces");
