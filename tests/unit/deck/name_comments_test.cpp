@@ -287,8 +287,11 @@ TEST_F(HmNames, AHeadOfNoMoreThanEightCharactersHasNoId) {
   EXPECT_EQ(RestAfter("$HM MAT5\"Door\"\nGRID\n"), "$HM MAT5\"Door\"\nGRID\n") << "no kind";
   // Tab ends the head but also separates the kind, so a short head can come with a kind.
   EXPECT_EQ(RestAfter("$HMNAM\tMAT\t7\n"), "");
+  EXPECT_EQ(RestAfter("12345678\tMAT\tSteel\n"), "");
   EXPECT_EQ(CountNames(), 0);
   RestAfter("$HMNAM\tCOMP\t7\n");
+  RestAfter("123456789\tMAT\tSteel\n");
+  EXPECT_EQ(Name(MaterialCommentTable, 23456789), "MAT") << "nine characters are enough";
   EXPECT_EQ(Name(PropertyNameTable, 7), "COMP") << "the third token is an id, the second one the name";
 }
 

@@ -159,6 +159,23 @@ TEST(ParseReal, TheExponentWrapsAt32Bits) {
   EXPECT_EQ(ParseReal("5-4294967297"), 0.5);
 }
 
+TEST(ParseReal, LongFractionsAddTheCodeBeforeTheyTakeOff48) {
+  const std::string digits = "882240130060100085";
+  double fraction = 0.0;
+  double otherWay = 0.0;
+  for (const char c : digits) {
+    fraction = fraction * 10.0 + c;
+    fraction = fraction - 48.0;
+    otherWay = otherWay * 10.0 + (c - 48.0);
+  }
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    fraction /= 10.0;
+    otherWay /= 10.0;
+  }
+  EXPECT_NE(fraction, otherWay) << "else this test would say nothing";
+  EXPECT_EQ(ParseReal(("." + digits).c_str()), fraction);
+}
+
 TEST(ParseReal, HugeExponentsAreQuick) {
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 1000; ++i) {
@@ -261,6 +278,18 @@ TEST(ParseReal, FollowsItsRulesOnRandomNumbers) {
   for (int i = 0; i < 100000; ++i) {
     std::string text;
     for (std::uint32_t length = random() % 17; length > 0; --length) {
+      text += alphabet[random() % alphabet.size()];
+    }
+    ExpectTheSameReal(text);
+  }
+}
+
+TEST(ParseReal, FollowsItsRulesOnLongNumbers) {
+  std::mt19937 random(23);
+  const std::string alphabet = "01234567890123456789012345678901234567890123456789.-E";
+  for (int i = 0; i < 20000; ++i) {
+    std::string text = random() % 2 == 0 ? "." : "";
+    for (std::uint32_t length = 16 + random() % 40; length > 0; --length) {
       text += alphabet[random() % alphabet.size()];
     }
     ExpectTheSameReal(text);
