@@ -109,7 +109,7 @@ void MemoryBoundaryStore::FindEntity(const wchar_t* name, Entity** out, std::int
 void MemoryBoundaryStore::GetEntitiesOfType(std::int32_t type, PooledList* out) {
   Call call(object, "GetEntitiesOfType");
   call.Arguments(type);
-  if (!call.HasRoom(out)) {
+  if (!call.HasRoom(out) || call.IsFillingRefused()) {
     return;
   }
   for (EntityInfo* info : entities) {

@@ -51,7 +51,7 @@ void MemoryCoordinateSystem::GetAxisPoints(double** x, double** y, double** z) {
     return;
   }
   double** const outs[] = {x, y, z};
-  if (points[0] == nullptr || points[1] == nullptr || points[2] == nullptr) {
+  if (call.IsRefused() || points[0] == nullptr || points[1] == nullptr || points[2] == nullptr) {
     for (double** out : outs) {
       call.Withhold(out);
     }
@@ -70,7 +70,7 @@ void MemoryCoordinateSystem::GetOrigin(double** out) {
   if (!call.HasRoom(out)) {
     return;
   }
-  if (points[0] == nullptr) {
+  if (call.IsRefused() || points[0] == nullptr) {
     call.Withhold(out);
     return;
   }

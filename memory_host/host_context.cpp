@@ -157,6 +157,9 @@ void Call::WriteLine() {
 }
 
 void Call::GiveObjects(PooledList** out, OwnedList& list) {
+  if (IsRefused(out)) {
+    return;
+  }
   *out = list.Get();
   if (object_.context.trace != nullptr) {
     for (void* value : list.As<void>()) {

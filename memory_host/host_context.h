@@ -176,6 +176,12 @@ class Call {
   }
   bool IsRefused() const { return refusal_ != Refusal::None; }
 
+  /// The same for a call that fills a list of the caller's, which stays as it is.
+  bool IsFillingRefused() {
+    withheld_ += IsRefused() ? 1 : 0;
+    return IsRefused();
+  }
+
   /// The failure of a look-up or create: `*out` stays as it is, or becomes null if the host is told so.
   template <typename Interface>
   void Withhold(Interface** out) {
@@ -188,20 +194,26 @@ class Call {
   /// The same for a number or a returned pointer.
   void WithholdValue() { ++withheld_; }
 
-  /// Hands an object out.
+  /// Hands an object out, unless the script refuses the call.
   template <typename Interface, typename Class>
   void Give(Interface** out, Class& given) {
+    if (IsRefused(out)) {
+      return;
+    }
     *out = static_cast<Interface*>(&given);
     given.object.HandOut();
     Gave(Object{*out});
   }
 
-  /// Hands a list of objects out.
+  /// Hands a list of objects out, unless the script refuses the call.
   void GiveObjects(PooledList** out, OwnedList& list);
 
-  /// Hands a list of nodes or elements out; `Kind` is Nodes or Elements.
+  /// The same for a list of nodes or elements; `Kind` is Nodes or Elements.
   template <typename Kind>
   void GiveList(PooledList** out, OwnedList& list) {
+    if (IsRefused(out)) {
+      return;
+    }
     *out = list.Get();
     Gave(Kind{list.Get()});
   }

@@ -75,7 +75,7 @@ void MemoryMaterial::SetDescriptor(MaterialDescriptor* given) {
 
 void MemoryMaterial::GetDescriptor(MaterialDescriptor** out) {
   Call call(object, "GetDescriptor");
-  if (call.HasRoom(out)) {
+  if (call.HasRoom(out) && !call.IsRefused(out)) {
     *out = &descriptor;
     call.Gave(static_cast<const MaterialDescriptor*>(*out));
   }

@@ -172,7 +172,7 @@ MemoryFace& MemoryModel::MakeFace(std::int32_t kind, std::int32_t id, MemoryBody
 void MemoryModel::CollectBodies(PooledList* list, std::int32_t flag1, std::int32_t flag2, std::int32_t flag3) {
   Call call(object, "CollectBodies");
   call.Arguments(flag1, flag2, flag3);
-  if (!call.HasRoom(list)) {
+  if (!call.HasRoom(list) || call.IsFillingRefused()) {
     return;
   }
   std::vector<const MeshPart*> held;
@@ -364,7 +364,7 @@ std::int32_t MemoryModel::NextElementId() {
 
 void MemoryModel::GetAllElements(HashTable** out) {
   Call call(object, "GetAllElements");
-  if (!call.HasRoom(out)) {
+  if (!call.HasRoom(out) || call.IsRefused(out)) {
     return;
   }
   Arena<MemoryElement>& elements = object.context.mesh.elements;
@@ -386,7 +386,7 @@ void MemoryModel::CollectNodeElements(std::int32_t mode, PooledList* nodeList, P
                                       std::int32_t flag8, std::int32_t flag9, std::int32_t flag10) {
   Call call(object, "CollectNodeElements");
   call.Arguments(mode, Nodes{nodeList}, flag1, flag2, flag3, flag4, flag5, flag6, flag7, flag8, flag9, flag10);
-  if (!call.HasRoom(out)) {
+  if (!call.HasRoom(out) || call.IsFillingRefused()) {
     return;
   }
   MeshRecords& mesh = object.context.mesh;

@@ -1,4 +1,4 @@
-// Tells the in-memory host when to say no. A test writes down which calls fail; the host asks before it carries out a create or a look-up.
+// Tells the in-memory host when to say no. A test writes down which calls fail; the host asks before it makes or hands out anything.
 #pragma once
 
 #include <cstdint>

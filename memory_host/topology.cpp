@@ -60,7 +60,7 @@ void MemorySolid::GetElements(PooledList** out) {
 
 void MemorySolid::GetShell(Shell** out) {
   Call call(object, "GetShell");
-  if (!call.HasRoom(out)) {
+  if (!call.HasRoom(out) || call.IsRefused(out)) {
     return;
   }
   // Nobody looks into a Shell but the host that made it, so each host gives what it likes under that name.
