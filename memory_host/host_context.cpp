@@ -130,7 +130,13 @@ void Call::Announce() {
   if (context.refusals.IsActive()) {
     refusal_ = context.refusals.Ask(type, operation_);
   }
-  traced_ = context.trace != nullptr && context.trace->Wants(type, operation_);
+  if (context.trace == nullptr) {
+    return;
+  }
+  // The owner of an element is reached through the element's record. It counts as handed out with the first call on it, be that a line or
+  // not: an object has the same number however much of the calls is written.
+  object_.HandOut();
+  traced_ = context.trace->Wants(type, operation_);
   if (traced_) {
     text_ = object_.Name();
     text_ += '.';

@@ -1,0 +1,72 @@
+// Numbers of objects in a trace do not depend on how many of the calls it shows.
+#include <algorithm>
+#include <sstream>
+
+#include "memory_host/host_fixture.h"
+
+namespace btz::memory {
+namespace {
+
+/// A tetrahedron in body 7 whose volume and skin are reached through records only, then a new face beside the skin.
+std::string TraceOfALoadedSolid(TraceSink::Coverage coverage) {
+  std::string text;
+  TraceSink sink(&text, coverage);
+  MemoryHost host;
+  host.SetTrace(&sink);
+  MeshModel* model = nullptr;
+  host.GetProject()->GetMeshModel(&model, 1);
+  const double corners[4][3] = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}};
+  const std::int32_t ids[4] = {1, 2, 3, 4};
+  for (std::size_t i = 0; i < 4; ++i) {
+    model->CreateNode(ids[i], corners[i], 0);
+  }
+  MeshPart* body = nullptr;
+  model->CreateBody(1, &body, 7, 0, 1, 1);
+  model->ReservePartId(7);
+  model->CreateElement(1, 7, ids, 7, 0, 1, 0, 0);
+  model->FinishSolidPart(body, 0, 0, 0);
+
+  MeshElement* solid = nullptr;
+  model->GetSolidElement(1, &solid, 1);
+  TopoFace* skin = solid->faces[0]->owner;
+  EXPECT_EQ(skin->GetTopoKind(), topoFace);
+  EXPECT_EQ(solid->owner->GetTopoKind(), topoBody);
+  TopoEntity* made = nullptr;
+  model->CreatePart(topoFace, &made, model->NextPartId(), body);
+  static_cast<TopoFace*>(made)->Finish();
+  skin->Finish();
+  return text;
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST(ObjectNumbers, OwnersCountFromTheFirstCallOnThem) {
+  const std::vector<std::string> lines = LinesOf(TraceOfALoadedSolid(TraceSink::Coverage::Changes));
+  ASSERT_GE(lines.size(), 3U);
+  // The skin was asked first, the volume second, and only then the new face came into being.
+  EXPECT_EQ(
+      std::vector<std::string>(lines.end() - 3, lines.end()),
+      (std::vector<std::string>{"MeshModel.CreatePart(2, 8, MeshPart#1) -> TopoFace#3", "TopoFace#3.Finish()", "TopoFace#1.Finish()"}));
+}
+
+TEST(ObjectNumbers, AreTheSameWhetherQuestionsAreLinesOrNot) {
+  const std::vector<std::string> changes = LinesOf(TraceOfALoadedSolid(TraceSink::Coverage::Changes));
+  std::vector<std::string> all = LinesOf(TraceOfALoadedSolid(TraceSink::Coverage::All));
+  EXPECT_EQ(std::count(all.begin(), all.end(), "TopoFace#1.GetTopoKind() -> 2"), 1);
+  EXPECT_EQ(std::count(all.begin(), all.end(), "TopoFace#2.GetTopoKind() -> 1"), 1);
+  std::erase_if(all, [](const std::string& line) {
+    return line.find(".GetTopoKind(") != std::string::npos || line.find(".GetSolidElement(") != std::string::npos ||
+           line.find(".NextPartId(") != std::string::npos;
+  });
+  EXPECT_EQ(changes, all);
+}
+
+}  // namespace
+}  // namespace btz::memory
