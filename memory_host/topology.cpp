@@ -290,16 +290,17 @@ MemoryFace& MemoryBody::SkinFace() {
 }
 
 void MemoryBody::Enter(MemoryFace& face) {
-  TopoFace* entry = &face;
-  if (!faces.Holds(entry)) {
-    faces.Append(entry);
+  if (face.enteredIn != this) {
+    face.enteredIn = this;
+    faces.Append(static_cast<TopoFace*>(&face));
   }
 }
 
 void MemoryBody::EnterById(std::int32_t faceId) {
-  for (MemoryFace* face : madeFaces) {
-    if (face->id == faceId && !faces.Holds(static_cast<TopoFace*>(face))) {
-      Enter(*face);
+  // From the newest on: a face is entered right after it was made, and one body may hold all rigid elements of a deck.
+  for (auto face = madeFaces.rbegin(); face != madeFaces.rend(); ++face) {
+    if ((*face)->id == faceId && (*face)->enteredIn != this) {
+      Enter(**face);
       return;
     }
   }

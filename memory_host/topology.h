@@ -172,7 +172,8 @@ class MemoryFace final : public PartBase<TopoFace> {
 
   MemoryBody& body;
   MemoryFaceMesh mesh;
-  OwnedList noFaces;  ///< A face has none itself.
+  OwnedList noFaces;                      ///< A face has none itself.
+  const MemoryBody* enteredIn = nullptr;  ///< Body in whose list of faces it stands.
   std::vector<MemoryEdge*> edges;
   bool visible = true;
 };
