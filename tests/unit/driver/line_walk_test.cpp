@@ -131,7 +131,7 @@ TEST_F(LineWalkTest, AReaderThatFetchedTextHasMovedEvenWhereTheCursorStays) {
 }
 
 TEST_F(LineWalkTest, ARowWithoutAReaderSkipsItsLineAndCountsNothing) {
-  WalkRows("TODO 1\nCARD 2\n  TODO 3\n", {CountedRow("TODO", familyMass, NotBuilt), Row("CARD", TakeLine)}, true);
+  WalkRows("LEFT 1\nCARD 2\n  LEFT 3\n", {CountedRow("LEFT", familyMass, NotBuilt), Row("CARD", TakeLine)}, true);
   EXPECT_THAT(taken, ElementsAre("CARD 2"));
   EXPECT_EQ(run.counters[familyMass], 0);
 }
