@@ -16,8 +16,8 @@ else()
   set(BTZ_LIBRARY_OPTIONS -fno-exceptions -fno-rtti "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 sees overruns in the standard library's own strings and sorts that are not there. The library, which uses neither, keeps these.
-    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Wno-array-bounds;-Wno-restrict;-Wno-stringop-overflow>")
-    list(APPEND BTZ_LIBRARY_OPTIONS -Warray-bounds -Wrestrict -Wstringop-overflow)
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Wno-array-bounds;-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread>")
+    list(APPEND BTZ_LIBRARY_OPTIONS -Warray-bounds -Wrestrict -Wstringop-overflow -Wstringop-overread)
   endif()
 endif()
 
