@@ -213,7 +213,7 @@ class MeshModel {
   /// Path of the deck in UTF-8, as the caller of the library gave it. The only narrow text of the boundary. [any]
   virtual void SetSourcePath(const char* path) = 0;
 
-  /// List of MeshPart*, all bodies in order of creation, rigid ones included. The host's own; read only. [pass 2-3] [stage] [after]
+  /// List of MeshPart*, all bodies in order of creation, rigid ones included. The host's own; read only. [pass 4] [stage] [after]
   virtual void GetParts(PooledList** out) = 0;
 
   /// Number for PropertyDescriptor::number; asked afresh for each property. [stage]
