@@ -50,6 +50,19 @@ char* TrimField(char* text);
 /// Required: the tests on a field work on what this leaves.
 char* CompactField(char* text);
 
+/// Whether the text at the cursor begins with `keyword`.
+inline bool BeginsWithKeyword(const char* cursor, const char* keyword) { return std::strncmp(cursor, keyword, std::strlen(keyword)) == 0; }
+
+/// Columns of a field: 16 when the text at the cursor begins with `largeKeyword` ("CHEXA*"), else 8.
+inline std::int32_t FieldWidthFor(const char* cursor, const char* largeKeyword) { return BeginsWithKeyword(cursor, largeKeyword) ? 16 : 8; }
+
+/// Takes the keyword field: its compacted text goes to `keyword`, the cursor moves over its 8 columns.
+inline void TakeKeyword(CardCursor* cursor, FieldText& keyword) {
+  PeekField(8, *cursor, keyword);
+  CompactField(keyword);
+  Advance(cursor, 8);
+}
+
 /// Reads an integer from the field and moves to its end, or to the line feed of a short line.
 inline void ReadIntField(std::int32_t width, CardCursor* cursor, std::int32_t* out) {
   const std::int32_t length = FieldLength(*cursor, width);
