@@ -5,9 +5,13 @@
 #include "analysis/case_control.h"
 #include "deck/fields.h"
 #include "deck/name_comments.h"
+#include "materials/material_transfer.h"
+#include "mesh/coordinate_systems.h"
+#include "mesh/lines.h"
 #include "mesh/nodes.h"
 #include "mesh/shells.h"
 #include "mesh/solids.h"
+#include "properties/property_cards.h"
 #include "support/text.h"
 
 namespace btz {
@@ -48,11 +52,43 @@ bool NamesItsMembers(const char* line) {
          FindSubstringNoCase(line, "LIST") != nullptr;
 }
 
+std::int32_t Cord2Card(CardContext& context, SystemKind kind) {
+  RunState& run = context.run;
+  ReadCord2Card(run.model, run.host.boundary, kind, &context.file.cursor, &run.lists.coordinateSystems);
+  return 0;
+}
+
+std::int32_t Cord1Card(CardContext& context, SystemKind kind) {
+  RunState& run = context.run;
+  ReadCord1Card(run.model, run.host.boundary, kind, &context.file.cursor, &run.lists.coordinateSystems);
+  return 0;
+}
+
 }  // namespace
 
 std::int32_t GridCard(CardContext& context) {
   RunState& run = context.run;
   ReadGridCard(run.model, &context.file.cursor, &run.lists.gridCp, &run.gridCdTable, run.logPath);
+  return 0;
+}
+
+std::int32_t PshellCard(CardContext& context) {
+  ReadPshellCard(&context.file.cursor, &context.run.lists.pshell);
+  return 0;
+}
+
+std::int32_t PsolidCard(CardContext& context) {
+  ReadPsolidCard(&context.file.cursor, &context.run.lists.psolid);
+  return 0;
+}
+
+std::int32_t BeamPropertyCard(CardContext& context) {
+  ReadBeamPropertyCard(&context.file.cursor, &context.run.lists.beamProperties);
+  return 0;
+}
+
+std::int32_t PgaskCard(CardContext& context) {
+  ReadPgaskCard(&context.file.cursor, &context.run.lists.pgask);
   return 0;
 }
 
@@ -97,6 +133,29 @@ std::int32_t PentaCard(CardContext& context) { return ReadPentaCard(context.run.
 std::int32_t HexaCard(CardContext& context) { return ReadHexaCard(context.run.model, &context.file.cursor, context.run.logPath); }
 
 std::int32_t PyramidCard(CardContext& context) { return ReadPyramidCard(context.run.model, &context.file, context.run.logPath); }
+
+std::int32_t BarCard(CardContext& context) {
+  RunState& run = context.run;
+  return ReadBarCard(run.model, &context.file.cursor, run.logPath, &run.lists.beamProperties);
+}
+
+std::int32_t BeamCard(CardContext& context) { return ReadBeamCard(context.run.model, &context.file.cursor, context.run.logPath); }
+
+std::int32_t Mat1Card(CardContext& context) {
+  RunState& run = context.run;
+  char name[nameCapacity];
+  ReadCommentAboveCard(context.file.cursor, name);
+  ReadMat1Card(&context.file.cursor, run.host.materials, &run.lists.materials, name);
+  return 0;
+}
+
+std::int32_t Cord2RectangularCard(CardContext& context) { return Cord2Card(context, rectangularSystem); }
+
+std::int32_t Cord2CylindricalCard(CardContext& context) { return Cord2Card(context, cylindricalSystem); }
+
+std::int32_t Cord1RectangularCard(CardContext& context) { return Cord1Card(context, rectangularSystem); }
+
+std::int32_t Cord1CylindricalCard(CardContext& context) { return Cord1Card(context, cylindricalSystem); }
 
 std::int32_t AnsaNameComment(CardContext& context) {
   ReadAnsaNameComment(&context.file.cursor);

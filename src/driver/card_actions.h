@@ -7,6 +7,10 @@ namespace btz {
 
 // Pass 1.
 std::int32_t GridCard(CardContext& context);
+std::int32_t PshellCard(CardContext& context);
+std::int32_t PsolidCard(CardContext& context);
+std::int32_t BeamPropertyCard(CardContext& context);  ///< PBAR, PBARL, PBEAM, PBEAML.
+std::int32_t PgaskCard(CardContext& context);
 std::int32_t SolLine(CardContext& context);       ///< Solution sequence.
 std::int32_t SdampingLine(CardContext& context);  ///< Damping table for all subcases, in front of the first.
 std::int32_t MfluidLine(CardContext& context);    ///< Fluid set for all subcases, in front of the first.
@@ -21,6 +25,13 @@ std::int32_t TetraCard(CardContext& context);
 std::int32_t PentaCard(CardContext& context);
 std::int32_t HexaCard(CardContext& context);
 std::int32_t PyramidCard(CardContext& context);
+std::int32_t BarCard(CardContext& context);
+std::int32_t BeamCard(CardContext& context);
+std::int32_t Mat1Card(CardContext& context);  ///< With the name in the comment above it.
+std::int32_t Cord2RectangularCard(CardContext& context);
+std::int32_t Cord2CylindricalCard(CardContext& context);
+std::int32_t Cord1RectangularCard(CardContext& context);
+std::int32_t Cord1CylindricalCard(CardContext& context);
 std::int32_t AnsaNameComment(CardContext& context);
 std::int32_t HmNameComment(CardContext& context);
 std::int32_t HmSetComment(CardContext& context);

@@ -123,11 +123,18 @@ void FreeCardLists(RunState* run) {
   }
 }
 
+void FreeIndexedList(IndexedList* list) {
+  WalkIndexedList<void>(list, ReleaseMemory);
+  IndexedListClear(list);
+}
+
 void FreePropertyLists(RunState* run) {
   RunLists& lists = run->lists;
-  for (PooledList* list : {&lists.tempd, &lists.pshell, &lists.coordinateSystems, &lists.gridCp, &lists.materials, &lists.psolid,
-                           &lists.beamProperties, &lists.pgap, &lists.pgask, &lists.pelas}) {
+  for (PooledList* list : {&lists.tempd, &lists.coordinateSystems, &lists.gridCp, &lists.pgap, &lists.pelas}) {
     FreeList({list, ReleaseMemory});
+  }
+  for (IndexedList* list : {&lists.pshell, &lists.materials, &lists.psolid, &lists.beamProperties, &lists.pgask}) {
+    FreeIndexedList(list);
   }
 }
 

@@ -5,7 +5,9 @@
 #include "driver/part_stages.h"
 #include "driver/split_faces.h"
 #include "loads/pressures.h"
+#include "materials/material_transfer.h"
 #include "mesh/gaps.h"
+#include "mesh/local_nodes.h"
 #include "mesh/part_names.h"
 #include "mesh/rigid_elements.h"
 #include "mesh/springs.h"
@@ -13,7 +15,9 @@
 #include "properties/connector_properties.h"
 #include "sets/analysis_node_set.h"
 #include "sets/pretension.h"
+#include "support/block_pool.h"
 #include "support/hash_table.h"
+#include "support/pooled_list.h"
 
 namespace btz {
 
@@ -26,6 +30,8 @@ bool HasPartNames(const RunState& /*run*/) { return HashCount(&PropertyNameTable
 bool IsTopologyEarly(const RunState& run) { return run.options.earlyTopology == 1; }
 
 bool IsTopologyLate(const RunState& run) { return run.options.earlyTopology == 0; }
+
+bool HasMaterialNames(const RunState& /*run*/) { return HashCount(&MaterialCommentTable) != 0; }
 
 bool HasRigidElements(const RunState& run) { return run.counters[familyRbe2] > 0 || run.counters[familyRbe3] > 0; }
 
@@ -57,6 +63,15 @@ bool IsRepairAsked(const RunState& run) { return run.options.repairMesh == 1; }
 
 bool IsSplitAsked(const RunState& run) { return run.options.splitFaceValue > 0.0; }
 
+void MoveLocalNodes(RunState& run) {
+  PooledList* records = &run.lists.gridCp;
+  ApplyGridCoordinateSystems(run.model, records, &run.lists.coordinateSystems);
+  WalkList<void>(records, ReleaseMemory);
+  ListClear(records);
+}
+
+void NameMaterials(RunState& run) { RenameMaterials(&run.lists.materials); }
+
 void UpdateTopology(RunState& run) { run.model->UpdateTopology(0); }
 
 void UniquePartNames(RunState& /*run*/) { MakePartNamesUnique(); }
@@ -81,11 +96,11 @@ constexpr FinishingStage transitionStages[] = {
 };
 
 constexpr FinishingStage stagesBehindElements[] = {
-    {"coordinates of nodes in local systems", Always, nullptr, StageNotBuilt},
+    {"coordinates of nodes in local systems", Always, nullptr, MoveLocalNodes},
     {"part names", HasPartNames, nullptr, NameParts},
     {"early topology", IsTopologyEarly, nullptr, UpdateTopology},
     {"log of the properties", Always, "Creating Properties....\n", [](RunState&) {}},
-    {"material names", Always, nullptr, StageNotBuilt},
+    {"material names", HasMaterialNames, nullptr, NameMaterials},
     {"properties, numbers and names by part", Always, nullptr, FinishParts},
     {"rigid bodies", HasRigidElements, nullptr, StageNotBuilt},  // Writes "Creating Rbe Body....\n" and keeps the log open.
     {"solid parts", Always, nullptr, FinishSolidParts},

@@ -1,7 +1,14 @@
 #include "driver/part_stages.h"
 
 #include "deck/name_comments.h"
+#include "materials/material_transfer.h"
+#include "mesh/line_orientation.h"
 #include "mesh/parts.h"
+#include "mesh/shells.h"
+#include "properties/beam_property.h"
+#include "properties/shell_property.h"
+#include "properties/solid_property.h"
+#include "support/hash_table.h"
 #include "support/pooled_list.h"
 #include "support/text.h"
 
@@ -9,28 +16,18 @@ namespace btz {
 
 namespace {
 
-using PropertyTransfer = void (*)(RunState& run, MeshPart* part);
-
-/// Marks a transfer that is not built yet: nothing happens.
-constexpr PropertyTransfer TransferNotBuilt = nullptr;
-
-constexpr PropertyTransfer solidOrGasketProperty = TransferNotBuilt;
-constexpr PropertyTransfer shellProperty = TransferNotBuilt;
-constexpr PropertyTransfer beamProperty = TransferNotBuilt;
-
-void Transfer(PropertyTransfer transfer, RunState& run, MeshPart* part) {
-  if (transfer != TransferNotBuilt) {
-    transfer(run, part);
-  }
-}
+bool HasReducedShells(std::int32_t partId) { return HashFind(&ReducedShellPropertyTable, &partId) != nullptr; }
 
 void TransferProperties(RunState& run, MeshPart* part, bool solid) {
+  RunLists& lists = run.lists;
+  const MaterialSource materials{run.host.materials, &lists.materials, CreateDefaultMaterial};
+  const std::int32_t partId = part->GetId();
   if (solid) {
-    Transfer(solidOrGasketProperty, run, part);
+    CreateSolidOrGasketProperty(part, materials, &lists.psolid, &lists.pgask, partId);
     return;
   }
-  Transfer(shellProperty, run, part);
-  Transfer(beamProperty, run, part);
+  CreateShellProperty(part, materials, &lists.pshell, partId, run.options.thicknessPrecision, HasReducedShells(partId));
+  CreateBeamProperty(part, materials, &lists.beamProperties, partId, run.host.boundary, FindOrientationSystem);
 }
 
 void NameByNumber(MeshPart* part) {

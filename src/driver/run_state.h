@@ -7,6 +7,7 @@
 #include "deck/deck_buffer.h"
 #include "driver/progress.h"
 #include "host/host_interfaces.h"
+#include "support/indexed_list.h"
 
 namespace btz {
 
@@ -68,23 +69,23 @@ struct NameCounters {
   std::int32_t plot = 0;
 };
 
-/// Lists of the run; their cells come from the run's list pool.
+/// Lists of the run; the cells of the pooled ones come from the run's list pool.
 struct RunLists {
   PooledList faceScratch;
   PooledList rigidElements;
-  PooledList pshell;
-  PooledList psolid;
-  PooledList beamProperties;
+  IndexedList pshell;          ///< PshellRecord by property id.
+  IndexedList psolid;          ///< PsolidRecord by property id.
+  IndexedList beamProperties;  ///< BeamPropertyRecord by property id.
   PooledList mpc;
-  PooledList coordinateSystems;
-  PooledList gridCp;  ///< GridCpRecord.
+  PooledList coordinateSystems;  ///< CsRecord.
+  PooledList gridCp;             ///< GridCpRecord.
   PooledList spc1;
-  PooledList materials;
+  IndexedList materials;  ///< MaterialLink by deck id.
   PooledList spc;
   PooledList tempd;
   PooledList pelas;
   PooledList pgap;
-  PooledList pgask;
+  IndexedList pgask;        ///< PgaskRecord by property id.
   PooledList hostEntities;  ///< Entity, gaps that the host has already.
   PooledList subcases;
 };

@@ -87,10 +87,12 @@ constexpr std::int32_t gridCdTableSize = 50000;
 
 void SetUpLists(RunState* run) {
   RunLists& lists = run->lists;
-  for (PooledList* list : {&lists.faceScratch, &lists.rigidElements, &lists.pshell, &lists.psolid, &lists.beamProperties, &lists.mpc,
-                           &lists.coordinateSystems, &lists.gridCp, &lists.spc1, &lists.materials, &lists.spc, &lists.tempd, &lists.pelas,
-                           &lists.pgap, &lists.pgask, &lists.hostEntities, &lists.subcases}) {
+  for (PooledList* list : {&lists.faceScratch, &lists.rigidElements, &lists.mpc, &lists.coordinateSystems, &lists.gridCp, &lists.spc1,
+                           &lists.spc, &lists.tempd, &lists.pelas, &lists.pgap, &lists.hostEntities, &lists.subcases}) {
     ListInit(list, &run->listPool);
+  }
+  for (IndexedList* list : {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask}) {
+    IndexedListInit(list);
   }
 }
 

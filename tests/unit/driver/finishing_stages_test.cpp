@@ -60,7 +60,6 @@ class StageTest : public testing::Test {
     const std::vector<std::string> always = {"transition elements",
                                              "coordinates of nodes in local systems",
                                              "log of the properties",
-                                             "material names",
                                              "properties, numbers and names by part",
                                              "solid parts",
                                              "solids",
@@ -119,11 +118,16 @@ TEST_F(StageTest, StagesLeftToBuild) {
       }
     }
   }
-  EXPECT_THAT(left, ElementsAre("transition elements", "coordinates of nodes in local systems", "material names", "rigid bodies",
-                                "pressures", "forces and moments", "masses", "bushes", "springs", "gaps", "single-point constraints",
-                                "single-point constraints of node lists", "multi-point constraints", "convection", "flux", "temperatures",
-                                "rigid bars", "analysis node sets", "displacement systems", "excitations", "pretension",
-                                "load cases and global damping", "bolts released"));
+  EXPECT_THAT(left, ElementsAre("transition elements", "rigid bodies", "pressures", "forces and moments", "masses", "bushes", "springs",
+                                "gaps", "single-point constraints", "single-point constraints of node lists", "multi-point constraints",
+                                "convection", "flux", "temperatures", "rigid bars", "analysis node sets", "displacement systems",
+                                "excitations", "pretension", "load cases and global damping", "bolts released"));
+}
+
+TEST_F(StageTest, MaterialsAreRenamedWhenACommentNamesOne) {
+  EXPECT_THAT(Due(), Not(testing::Contains("material names")));
+  RegisterCommentName("MAT", 1, "Steel");
+  EXPECT_THAT(Due(), testing::Contains("material names"));
 }
 
 TEST_F(StageTest, LogLinesInFrontOfStages) {

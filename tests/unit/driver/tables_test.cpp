@@ -100,6 +100,11 @@ class RunTablesTest : public TablesTest {
   RunTablesTest() { SetUpTables(&run); }
   ~RunTablesTest() override { ReleaseRun(&run); }
 
+  std::vector<IndexedList*> IndexedLists() {
+    RunLists& lists = run.lists;
+    return {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask};
+  }
+
   RunState run;
 };
 
@@ -123,12 +128,15 @@ TEST_F(RunTablesTest, TheTableOfDisplacementSystemsBelongsToTheRun) {
 
 TEST_F(RunTablesTest, EveryListOfTheRunIsEmptyAndDrawsFromItsPool) {
   for (const PooledList* list :
-       {&run.lists.faceScratch, &run.lists.rigidElements, &run.lists.pshell, &run.lists.psolid, &run.lists.beamProperties, &run.lists.mpc,
-        &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1, &run.lists.materials, &run.lists.spc, &run.lists.tempd,
-        &run.lists.pelas, &run.lists.pgap, &run.lists.pgask, &run.lists.hostEntities, &run.lists.subcases}) {
+       {&run.lists.faceScratch, &run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1,
+        &run.lists.spc, &run.lists.tempd, &run.lists.pelas, &run.lists.pgap, &run.lists.hostEntities, &run.lists.subcases}) {
     EXPECT_EQ(list->size, 0);
     EXPECT_EQ(list->next, list);
     EXPECT_EQ(list->pool, &run.listPool);
+  }
+  for (const IndexedList* list : IndexedLists()) {
+    EXPECT_EQ(list->size, 0);
+    EXPECT_EQ(list->first, nullptr);
   }
   EXPECT_EQ(run.listPool.blocks.blockSize, 4084u);
   EXPECT_EQ(run.recordPool.blockSize, 4084u);
@@ -250,10 +258,12 @@ TEST_F(RunTablesTest, TheCleanUpEmptiesEveryTable) {
 }
 
 TEST_F(RunTablesTest, TheCleanUpEmptiesTheListsOfRecords) {
-  for (PooledList* list : {&run.lists.rigidElements, &run.lists.pshell, &run.lists.psolid, &run.lists.beamProperties, &run.lists.mpc,
-                           &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1, &run.lists.materials, &run.lists.spc,
-                           &run.lists.tempd, &run.lists.pelas, &run.lists.pgap, &run.lists.pgask, &run.lists.subcases}) {
+  for (PooledList* list : {&run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1,
+                           &run.lists.spc, &run.lists.tempd, &run.lists.pelas, &run.lists.pgap, &run.lists.subcases}) {
     ListAppend(list, AllocateZeroed(64));
+  }
+  for (IndexedList* list : IndexedLists()) {
+    IndexedListAppend(list, 7, AllocateZeroed(64));
   }
   ListAppend(&TransitionElementList, AllocateZeroed(sizeof(TransitionTetRecord)));
   int part = 0;
@@ -266,6 +276,10 @@ TEST_F(RunTablesTest, TheCleanUpEmptiesTheListsOfRecords) {
   EXPECT_EQ(run.lists.pelas.size, 0);
   EXPECT_EQ(run.lists.subcases.size, 0);
   EXPECT_EQ(TransitionElementList.size, 0);
+  for (const IndexedList* list : IndexedLists()) {
+    EXPECT_EQ(list->size, 0);
+    EXPECT_EQ(IndexedListFind(list, 7), nullptr);
+  }
 }
 
 TEST_F(RunTablesTest, ACleanUpMayBeFollowedByTheReleaseOfTheRun) {
