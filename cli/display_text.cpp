@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 namespace btz::cli {
 
@@ -60,6 +61,33 @@ char WithoutControl(char character) {
   return byte < 0x20 || byte == 0x7F ? '?' : character;
 }
 
+/// The character that begins at `text[i]`, of `length` bytes. Their continuation bytes carry six bits each.
+std::uint32_t CharacterAt(std::string_view text, std::size_t i, std::size_t length) {
+  const auto lead = static_cast<unsigned char>(text[i]);
+  std::uint32_t character = length == 1 ? lead : lead & (0x7FU >> length);
+  for (std::size_t k = 1; k < length; ++k) {
+    character = (character << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+  }
+  return character;
+}
+
+struct CharacterRange {
+  std::uint32_t first;
+  std::uint32_t last;
+};
+
+constexpr CharacterRange wideCharacters[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},
+                                             {0xFE30, 0xFE6F}, {0xFF00, 0xFF60}, {0x1F300, 0x1FAFF}, {0x20000, 0x3FFFD}};
+
+std::size_t ColumnsOf(std::uint32_t character) {
+  if (character >= 0x300 && character <= 0x36F) {
+    return 0;
+  }
+  const bool wide = std::any_of(std::begin(wideCharacters), std::end(wideCharacters),
+                                [character](const CharacterRange& range) { return character >= range.first && character <= range.last; });
+  return wide ? 2 : 1;
+}
+
 }  // namespace
 
 std::string DisplayText(std::wstring_view text) {
@@ -81,6 +109,16 @@ std::string DisplayText(std::wstring_view text) {
   }
   std::transform(shown.begin(), shown.end(), shown.begin(), WithoutControl);
   return shown;
+}
+
+std::size_t DisplayWidth(std::string_view text) {
+  std::size_t width = 0;
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t length = std::max<std::size_t>(CharacterLength(static_cast<unsigned char>(text[i])), 1);
+    width += i + length > text.size() ? 1 : ColumnsOf(CharacterAt(text, i, length));
+    i += length;
+  }
+  return width;
 }
 
 }  // namespace btz::cli

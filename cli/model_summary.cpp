@@ -44,8 +44,7 @@ struct EntityWords {
 
 /// In the order of the report.
 constexpr EntityWords entityWords[] = {
-    {ObjectType::CoordinateSystem, "coordinate systems", "systems"},
-    {ObjectType::NodeSystemAssignment, "coordinate systems", "assignments to nodes"},
+    {ObjectType::NodeSystemAssignment, "displacement systems", "assignments to nodes"},
     {ObjectType::ForceLoad, "loads", "forces and moments"},
     {ObjectType::Pressure, "loads", "pressures"},
     {ObjectType::BodyLoad, "loads", "body loads"},
@@ -84,17 +83,6 @@ class KindList {
   std::vector<ItemKind> kinds_;
 };
 
-std::string JoinWords(std::initializer_list<const wchar_t*> words) {
-  std::string text;
-  for (const wchar_t* word : words) {
-    if (*word != 0) {
-      text += text.empty() ? "" : ", ";
-      text += DisplayText(word);
-    }
-  }
-  return text.empty() ? "not described" : text;
-}
-
 const char* KindOf(ObjectType type) {
   const auto* words =
       std::find_if(std::begin(entityWords), std::end(entityWords), [type](const EntityWords& held) { return held.type == type; });
@@ -121,28 +109,10 @@ void AddEntityGroups(const memory::MemoryBoundaryStore& store, std::vector<ItemG
   }
 }
 
-ItemGroup PropertyGroup(const memory::MemoryMaterialStore& store) {
-  KindList kinds;
-  for (const memory::MemoryProperty& property : store.properties) {
-    const PropertyDescriptor& descriptor = property.descriptor;
-    kinds.Add(JoinWords({descriptor.propertyClass, descriptor.materialClass}), {property.id, DisplayText(property.name)});
-  }
-  return {"properties", kinds.Take()};
-}
-
-ItemGroup MaterialGroup(const memory::MemoryMaterialStore& store) {
-  KindList kinds;
-  for (const memory::MemoryMaterial& material : store.materials) {
-    const MaterialDescriptor& descriptor = material.descriptor;
-    kinds.Add(JoinWords({descriptor.symmetry, descriptor.behaviour, descriptor.family}), {material.number, DisplayText(descriptor.name)});
-  }
-  return {"materials", kinds.Take()};
-}
-
 ItemGroup FieldGroup(const memory::MemoryCurveStore& store) {
   KindList kinds;
   for (const memory::MemoryField& field : store.fields) {
-    kinds.Add(JoinWords({field.quantity.c_str()}), {field.id, DisplayText(field.name)});
+    kinds.Add(field.quantity.empty() ? "not described" : DisplayText(field.quantity), {field.id, DisplayText(field.name)});
   }
   return {"curves and fields", kinds.Take()};
 }
@@ -181,7 +151,7 @@ std::vector<PartSummary> Parts(const MemoryHost& host) {
   std::unordered_map<const memory::MemoryBody*, std::size_t> placeOf;
   for (const memory::MemoryBody& body : host.Model().bodies) {
     placeOf.emplace(&body, parts.size());
-    parts.push_back({body.id, body.number, DisplayText(body.name), body.rigid, static_cast<std::size_t>(body.faces.Size()), {}});
+    parts.push_back({body.id, body.number, DisplayText(body.name), body.rigid, static_cast<std::size_t>(body.faces.Size()), {}, {}});
   }
   for (std::size_t i = 0; i < host.Elements().Size(); ++i) {
     const memory::MemoryElement& element = host.Elements()[i];
@@ -191,6 +161,33 @@ std::vector<PartSummary> Parts(const MemoryHost& host) {
     }
   }
   return parts;
+}
+
+/// Tells properties and parts of each other.
+void LinkProperties(const MemoryHost& host, ModelSummary* summary) {
+  std::unordered_map<const MeshPart*, std::size_t> placeOf;
+  for (const memory::MemoryBody& body : host.Model().bodies) {
+    placeOf.emplace(&body, placeOf.size());
+  }
+  std::size_t property = 0;
+  for (const memory::MemoryProperty& held : host.Materials().properties) {
+    for (const MeshPart* part : held.parts) {
+      const auto found = placeOf.find(part);
+      if (found != placeOf.end()) {
+        summary->parts[found->second].properties.push_back(property);
+        summary->properties[property].parts.push_back(found->second);
+      }
+    }
+    ++property;
+  }
+}
+
+std::size_t NodesInLocalSystems(const MemoryHost& host) {
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < host.Nodes().Size(); ++i) {
+    count += host.Nodes()[i].coordinateSystemId != 0 ? 1 : 0;
+  }
+  return count;
 }
 
 }  // namespace
@@ -206,7 +203,12 @@ ModelSummary SummariseModel(const MemoryHost& host) {
     ++summary.elements.at(static_cast<std::size_t>(host.Elements()[i].typeIndex));
   }
   summary.parts = Parts(host);
-  summary.groups = {PropertyGroup(host.Materials()), MaterialGroup(host.Materials()), FieldGroup(host.Curves())};
+  summary.nodesInLocalSystems = NodesInLocalSystems(host);
+  summary.properties = SummariseProperties(host);
+  LinkProperties(host, &summary);
+  summary.materials = SummariseMaterials(host);
+  summary.systems = SummariseSystems(host);
+  summary.groups = {FieldGroup(host.Curves())};
   AddEntityGroups(host.Boundary(), summary.groups);
   summary.groups.push_back(ElementGroups(host.Groups()));
   summary.loadCases = LoadCases(host.Boundary());

@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "cli/property_summary.h"
+#include "cli/system_summary.h"
+
 namespace btz::memory {
 class MemoryHost;
 }
@@ -30,9 +33,10 @@ struct PartSummary {
   bool isRigid = false;
   std::size_t faces = 0;
   ElementCounts elements{};
+  std::vector<std::size_t> properties;  ///< Places of its properties in the model's list.
 };
 
-/// One thing with a name: a property, a force, a set.
+/// One thing with a name: a force, a set.
 struct NamedItem {
   std::int32_t id = 0;
   std::string name;
@@ -59,9 +63,13 @@ struct LoadCaseSummary {
 
 struct ModelSummary {
   std::size_t nodes = 0;
+  std::size_t nodesInLocalSystems = 0;  ///< Nodes whose coordinates the deck gives in a system of its own.
   ElementCounts elements{};
   std::vector<PartSummary> parts;
-  std::vector<ItemGroup> groups;  ///< All headings, in the report's order; empty ones have no kinds.
+  std::vector<PropertySummary> properties;
+  std::vector<MaterialSummary> materials;
+  std::vector<SystemSummary> systems;
+  std::vector<ItemGroup> groups;  ///< The other headings, in the report's order; empty ones have no kinds.
   std::vector<LoadCaseSummary> loadCases;
   bool isHandedOver = false;  ///< The host received the finished model.
 };

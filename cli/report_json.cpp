@@ -1,5 +1,8 @@
 #include <nlohmann/json.hpp>
 
+#include <type_traits>
+#include <variant>
+
 #include "cli/exit_codes.h"
 #include "cli/report.h"
 
@@ -20,8 +23,50 @@ Json JsonOf(const ElementCounts& counts) {
 }
 
 Json JsonOf(const PartSummary& part) {
-  return {{"id", part.id},         {"number", part.number}, {"name", part.name},
-          {"rigid", part.isRigid}, {"faces", part.faces},   {"elements", JsonOf(part.elements)}};
+  return {{"id", part.id},
+          {"number", part.number},
+          {"name", part.name},
+          {"rigid", part.isRigid},
+          {"faces", part.faces},
+          {"elements", JsonOf(part.elements)},
+          {"properties", part.properties}};
+}
+
+/// Values by key; null for a value that the deck left blank and for a material that is none.
+Json JsonOf(const std::vector<ValueSummary>& values) {
+  Json json = Json::object();
+  for (const ValueSummary& value : values) {
+    Json& shown = json[value.key] = nullptr;
+    std::visit(
+        [&](const auto& held) {
+          if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, std::monostate>) {
+            shown = held;
+          }
+        },
+        value.value);
+  }
+  return json;
+}
+
+Json JsonOf(const PropertySummary& property) {
+  Json material = nullptr;
+  if (property.material) {
+    material = {{"number", property.material->number}, {"name", property.material->name}};
+  }
+  return {{"id", property.id},    {"name", property.name},   {"class", property.kind},
+          {"material", material}, {"parts", property.parts}, {"values", JsonOf(property.values)}};
+}
+
+Json JsonOf(const MaterialSummary& material) {
+  return {{"number", material.number}, {"name", material.name}, {"class", material.kind}, {"values", JsonOf(material.values)}};
+}
+
+Json JsonOf(const SystemSummary& system) {
+  Json origin = nullptr;
+  if (system.origin) {
+    origin = *system.origin;
+  }
+  return {{"id", system.id}, {"kind", system.kind}, {"name", system.name}, {"origin", origin}, {"nodes", system.nodes}};
 }
 
 Json JsonOf(const std::vector<ItemKind>& kinds) {
@@ -39,19 +84,29 @@ Json JsonOf(const LoadCaseSummary& loadCase) {
   return {{"name", loadCase.name}, {"solver", loadCase.solver}, {"analysis", loadCase.analysis}, {"members", JsonOf(loadCase.members)}};
 }
 
-Json JsonOf(const ModelSummary& model) {
-  Json json = {{"handedOver", model.isHandedOver}, {"nodes", model.nodes}, {"elements", JsonOf(model.elements)}};
-  Json& parts = json["parts"] = Json::array();
-  for (const PartSummary& part : model.parts) {
-    parts.push_back(JsonOf(part));
+template <typename Item>
+Json ArrayOf(const std::vector<Item>& items) {
+  Json json = Json::array();
+  for (const Item& item : items) {
+    json.push_back(JsonOf(item));
   }
+  return json;
+}
+
+/// Parts and properties name each other by their places in the lists, from 0: ids need not be unique.
+Json JsonOf(const ModelSummary& model) {
+  Json json = {{"handedOver", model.isHandedOver},
+               {"nodes", model.nodes},
+               {"nodesInLocalSystems", model.nodesInLocalSystems},
+               {"elements", JsonOf(model.elements)},
+               {"parts", ArrayOf(model.parts)},
+               {"properties", ArrayOf(model.properties)},
+               {"materials", ArrayOf(model.materials)},
+               {"coordinate systems", ArrayOf(model.systems)}};
   for (const ItemGroup& group : model.groups) {
     json[group.title] = JsonOf(group.kinds);
   }
-  Json& loadCases = json["load cases"] = Json::array();
-  for (const LoadCaseSummary& loadCase : model.loadCases) {
-    loadCases.push_back(JsonOf(loadCase));
-  }
+  json["load cases"] = ArrayOf(model.loadCases);
   return json;
 }
 

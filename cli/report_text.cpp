@@ -1,11 +1,11 @@
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <iterator>
 #include <vector>
 
 #include "cli/exit_codes.h"
 #include "cli/report.h"
+#include "cli/report_tables.h"
 
 namespace btz::cli {
 
@@ -43,6 +43,9 @@ class TextReport {
  public:
   std::string Take() { return std::move(text_); }
 
+  /// Whole lines.
+  void Append(const std::string& lines) { text_ += lines; }
+
   void Blank() { text_ += '\n'; }
 
   /// A heading with its value.
@@ -74,19 +77,11 @@ std::string SpeedText(const RunReport& report) {
   return fmt::format("{:.3f} s, {:.1f} MB/s", report.seconds, static_cast<double>(report.deckBytes) / 1e6 / report.seconds);
 }
 
-/// "3 lines, 2 nodes; 120 quadrilaterals, 4 nodes".
-std::string CountsText(const ElementCounts& counts) {
-  std::vector<std::string> parts;
-  for (std::size_t type = 0; type < counts.size(); ++type) {
-    if (counts[type] != 0) {
-      parts.push_back(fmt::format("{} {}", counts[type], ElementTypeName(type)));
-    }
-  }
-  return parts.empty() ? "none" : fmt::format("{}", fmt::join(parts, "; "));
-}
-
 void AddMesh(TextReport& text, const ModelSummary& model) {
   text.Heading("Nodes", model.nodes);
+  if (model.nodesInLocalSystems != 0) {
+    text.Detail("in local systems", model.nodesInLocalSystems);
+  }
   text.Heading("Elements", Total(model.elements));
   for (std::size_t type = 0; type < model.elements.size(); ++type) {
     if (model.elements[type] != 0) {
@@ -95,26 +90,43 @@ void AddMesh(TextReport& text, const ModelSummary& model) {
   }
 }
 
-std::string PartName(const PartSummary& part) {
-  std::string name = part.name.empty() ? "(no name)" : part.name;
-  return part.isRigid ? name + " (rigid body)" : name;
-}
-
-void AddParts(TextReport& text, const std::vector<PartSummary>& parts) {
-  if (parts.empty()) {
+/// A heading with the number of its rows, and the table below; nothing when there are none.
+template <typename Row>
+void AddTable(TextReport& text, const char* heading, const std::vector<Row>& rows, const std::string& table) {
+  if (rows.empty()) {
     return;
   }
   text.Blank();
-  text.Heading("Parts", parts.size());
-  std::size_t nameWidth = 4;
-  for (const PartSummary& part : parts) {
-    nameWidth = std::max(nameWidth, PartName(part).size());
+  text.Heading(heading, rows.size());
+  text.Append(table);
+}
+
+/// Tells which parts have elements to describe and no property that does.
+void AddPartsWithoutProperty(TextReport& text, const ModelSummary& model) {
+  std::vector<std::string> names;
+  std::size_t count = 0;
+  for (const PartSummary& part : model.parts) {
+    if (part.isRigid || !part.properties.empty()) {
+      continue;
+    }
+    ++count;
+    if (names.size() < mostNames) {
+      names.push_back(part.name.empty() ? fmt::format("{}", part.id) : fmt::format("{} {}", part.id, part.name));
+    }
   }
-  nameWidth = std::min<std::size_t>(nameWidth, 40);
-  text.Line("  {:>8}  {:>6}  {:<{}}  {}", "Id", "Number", "Name", nameWidth, "Elements");
-  for (const PartSummary& part : parts) {
-    const std::string number = part.number == 0 ? "-" : fmt::format("{}", part.number);
-    text.Line("  {:>8}  {:>6}  {:<{}}  {}", part.id, number, PartName(part), nameWidth, CountsText(part.elements));
+  if (count == 0) {
+    return;
+  }
+  if (count > names.size()) {
+    names.push_back("...");
+  }
+  text.Detail("without property", fmt::format("{} {}: {}", count, count == 1 ? "part" : "parts", Join(names)));
+}
+
+void AddProperties(TextReport& text, const ModelSummary& model) {
+  AddTable(text, "Properties", model.properties, PropertiesTable(model));
+  if (!model.properties.empty()) {
+    AddPartsWithoutProperty(text, model);
   }
 }
 
@@ -184,17 +196,19 @@ void AddLoadCases(TextReport& text, const std::vector<LoadCaseSummary>& loadCase
 /// One line for all that the model does not have.
 void AddMissing(TextReport& text, const ModelSummary& model) {
   std::vector<std::string> missing;
-  if (model.parts.empty()) {
-    missing.push_back("parts");
-  }
-  for (const ItemGroup& group : model.groups) {
-    if (group.kinds.empty()) {
-      missing.push_back(group.title);
+  const auto note = [&](const char* what, bool isMissing) {
+    if (isMissing) {
+      missing.push_back(what);
     }
+  };
+  note("parts", model.parts.empty());
+  note("properties", model.properties.empty());
+  note("materials", model.materials.empty());
+  note("coordinate systems", model.systems.empty());
+  for (const ItemGroup& group : model.groups) {
+    note(group.title.c_str(), group.kinds.empty());
   }
-  if (model.loadCases.empty()) {
-    missing.push_back("load cases");
-  }
+  note("load cases", model.loadCases.empty());
   if (!missing.empty()) {
     text.Blank();
     text.Heading("Not in the model", JoinWrapped(missing));
@@ -254,7 +268,10 @@ std::string ReportText(const RunReport& report) {
   text.Heading("Time", SpeedText(report));
   text.Blank();
   AddMesh(text, report.model);
-  AddParts(text, report.model.parts);
+  AddTable(text, "Parts", report.model.parts, PartsTable(report.model));
+  AddProperties(text, report.model);
+  AddTable(text, "Materials", report.model.materials, MaterialsTable(report.model));
+  AddTable(text, "Coordinate systems", report.model.systems, SystemsTable(report.model));
   for (const ItemGroup& group : report.model.groups) {
     AddGroup(text, group);
   }

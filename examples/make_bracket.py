@@ -12,7 +12,9 @@ Units: mm, N, tonne (so MPa, and 9810 mm/s^2 for gravity). The wall is the plane
        |  | o  |\\    two gussets, y = 10 and y = 50
        |  |    |  \\      ____
        |  |____|____\\___|____|   block with a ramp, on the base plate
-       +-------------------------> x
+       +-------------------------> x   a tube runs along each long edge of the base plate
+
+The nodes in the lower hole and on its rim are given in a cylindrical system, whose axis is the hole's.
 """
 import argparse
 import pathlib
@@ -31,8 +33,9 @@ BLOCK_Y = (1, 5)
 BLOCK_HEIGHT = 3
 
 # Property, that is, part numbers. Elements are numbered from a thousand times the part.
-BASE, UPRIGHT, GUSSETS, BLOCK, LIP = 1, 2, 3, 4, 5
+BASE, UPRIGHT, GUSSETS, BLOCK, LIP, TUBES = 1, 2, 3, 4, 5, 6
 STEEL, ALUMINIUM = 1, 2
+HOLE_SYSTEM = 10
 LOAD_NODE = 9001
 BOLT_ELEMENT, LOAD_ELEMENT, MASS_ELEMENT = 9101, 9111, 9121
 SUPPORT_SET, LIFT_SET, WEIGHT_SET, PRESSURE_SET, LIFT_AND_WEIGHT_SET = 1, 10, 20, 30, 100
@@ -136,6 +139,30 @@ def add_lip(model):
         model.add("CBAR", LIP, ends, "1.0", "0.0", "0.0")
 
 
+def add_tubes(model):
+    """Beams along both long edges of the base plate."""
+    for y in (0, WIDTH):
+        for x in range(BASE_LENGTH):
+            ends = [model.node(place, y, 0) for place in (x, x + 1)]
+            model.add("CBEAM", TUBES, ends, "0.0", "0.0", "1.0")
+
+
+def hole_rim(row):
+    """Places on the rim of a hole, by their angle in degrees about the x axis from the y axis on."""
+    return {
+        0: (0, HOLE_COLUMN + 1, row),
+        90: (0, HOLE_COLUMN, row + 1),
+        180: (0, HOLE_COLUMN - 1, row),
+        270: (0, HOLE_COLUMN, row - 1),
+    }
+
+
+def hole_system():
+    """The cylindrical system of the lower hole: origin, a point on its axis, and one in the direction of the angle 0."""
+    x, y, z = 0.0, CELL * HOLE_COLUMN, CELL * HOLE_ROWS[0]
+    return card("CORD2C", HOLE_SYSTEM, "", x, y, z, x + CELL, y, z, x, y + CELL, z)
+
+
 def case_control():
     return [
         "SOL 101",
@@ -155,7 +182,7 @@ def case_control():
 
 
 def names():
-    parts = {BASE: "Base plate", UPRIGHT: "Upright", GUSSETS: "Gussets", BLOCK: "Block", LIP: "Lip"}
+    parts = {BASE: "Base plate", UPRIGHT: "Upright", GUSSETS: "Gussets", BLOCK: "Block", LIP: "Lip", TUBES: "Edge tubes"}
     lines = [f'$HMNAME COMP            {number:8}"{name}"' for number, name in parts.items()]
     lines += [f'$HMNAME MAT             {number:8}"{name}"' for number, name in {STEEL: "Steel", ALUMINIUM: "Aluminium"}.items()]
     return lines
@@ -169,6 +196,8 @@ def materials_and_properties():
     lines += ["$Solid_aluminium"] + card("PSOLID", BLOCK, ALUMINIUM, 0)
     # A flat of 5 mm x 10 mm.
     lines += ["$Flat_5x10"] + card("PBAR", LIP, STEEL, "50.0", "416.7", "104.2", "286.0", "0.0")
+    # Outer and inner radius.
+    lines += ["$Tube_10x2"] + card("PBEAML", TUBES, STEEL, "", "TUBE", "", "", "", "", "5.0", "3.0")
     return lines
 
 
@@ -176,9 +205,8 @@ def connections(model):
     """Bolts in the holes, and the load point above the block with the mass that hangs there."""
     lines = []
     for i, row in enumerate(HOLE_ROWS):
-        rim = [(0, HOLE_COLUMN - 1, row), (0, HOLE_COLUMN, row - 1), (0, HOLE_COLUMN + 1, row), (0, HOLE_COLUMN, row + 1)]
         centre = model.node(0, HOLE_COLUMN, row)
-        lines += card("RBE2", BOLT_ELEMENT + i, centre, 123456, *[model.nodes[place] for place in rim])
+        lines += card("RBE2", BOLT_ELEMENT + i, centre, 123456, *[model.nodes[place] for place in hole_rim(row).values()])
     top = [model.nodes[x, y, BLOCK_HEIGHT] for x in range(BLOCK_X[0], BLOCK_X[1] + 1) for y in range(BLOCK_Y[0], BLOCK_Y[1] + 1)]
     lines += card("RBE3", LOAD_ELEMENT, "", LOAD_NODE, 123, "1.0", 123, *top)
     return lines + card("CONM2", MASS_ELEMENT, LOAD_NODE, 0, "0.002")
@@ -197,9 +225,16 @@ def loads(model, free_elements):
 
 
 def grid_points(model):
+    row = HOLE_ROWS[0]
+    polar = {(0, HOLE_COLUMN, row): (0.0, 0.0, 0.0), **{place: (CELL, float(angle), 0.0) for angle, place in hole_rim(row).items()}}
+    lines = []
+    for place, number in model.nodes.items():
+        if place in polar:
+            lines += card("GRID", number, HOLE_SYSTEM, *polar[place])
+        else:
+            lines += card("GRID", number, "", *[CELL * step for step in place])
     centre = [(BLOCK_X[0] + BLOCK_X[1]) / 2, (BLOCK_Y[0] + BLOCK_Y[1]) / 2, BLOCK_HEIGHT + 2]
-    places = [(number, place) for place, number in model.nodes.items()] + [(LOAD_NODE, centre)]
-    return [line for number, place in places for line in card("GRID", number, "", *[CELL * step for step in place])]
+    return lines + card("GRID", LOAD_NODE, "", *[CELL * step for step in centre])
 
 
 def make_deck():
@@ -209,9 +244,10 @@ def make_deck():
     add_gussets(model)
     add_block(model)
     add_lip(model)
+    add_tubes(model)
     rigid = connections(model)
     lines = ["$ A bracket of steel sheet with an aluminium block: written by make_bracket.py. Units: mm, N, tonne."]
-    lines += case_control() + names() + materials_and_properties()
+    lines += case_control() + names() + materials_and_properties() + hole_system()
     lines += grid_points(model) + model.element_cards + rigid + loads(model, free_elements)
     return "\n".join(lines + ["ENDDATA"]) + "\n"
 

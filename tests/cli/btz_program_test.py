@@ -397,6 +397,85 @@ class Report(ProgramTest):
         self.assertEqual(report["log"]["nodesRead"], 6)
 
 
+    PROPERTIES_DECK = (
+        NODES
+        + card("GRID", 4, 10, "2.0", "90.0", "1.0")
+        + card("GRID", 5, 10, "2.0", "180.0", "1.0")
+        + "$Flügelhaut\n"
+        + card("PSHELL", 7, 1, "2.5")
+        + card("PBAR", 7, 1, "50.0", "416.7")
+        + card("PBEAML", 8, 3, "", "TUBE", "", "", "", "").rstrip("\n").ljust(72) + "+\n"
+        + card("+", "5.0", "3.0").rstrip("\n").ljust(24) + "\n"
+        + card("PSOLID", 9, 2)
+        + TRIANGLE
+        + card("CBAR", 12, 7, 1, 2, "0.0", "1.0", "0.0")
+        + card("CBEAM", 13, 8, 1, 3)
+        + card("CTETRA", 21, 9, 1, 2, 3, 4)
+        + card("CTRIA3", 14, 11, 1, 2, 3)
+        + card("MAT1", 1, "210000.0", "", "0.3", "7.85-9")
+        + card("MAT1", 2, "70000.0")
+        + '$HMNAME MAT                    1"Steel"\n'
+        + card("CORD2C", 10, "", "0.0", "0.0", "5.0", "0.0", "0.0", "6.0").rstrip("\n").ljust(72) + "+\n"
+        + card("+", "1.0", "0.0", "5.0").rstrip("\n").ljust(32) + "\n"
+        + "ENDDATA\n"
+    )
+
+    def test_properties_materials_and_systems(self):
+        done = self.run_btz("inspect", self.write("properties.bdf", self.PROPERTIES_DECK))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        # Five nodes of the deck and the three that hold the system.
+        self.assertIn("\nNodes               8\n  in local systems  2\n", done.stdout)
+        self.assertIn(
+            "\nProperties          4\n"
+            "      Part  Class             Name        Material      Thickness or section\n"
+            "         7  Shell, Isotropic  Flügelhaut  1 Steel       thickness 2.5\n"
+            "         7  Bar, Bar          Property7   1 Steel       area 50\n"
+            "         8  Bar, Beam         Property8   3 Material_3  hollow round 5, 3\n"
+            "         9  Solid, Isotropic  Property9   2 Material_2  -\n"
+            "  without property  1 part: 11 Body 11\n",
+            done.stdout,
+        )
+        # The third material stands on no card.
+        self.assertIn(
+            "\nMaterials           3\n"
+            "    Number  Name        Young's modulus  Poisson's ratio     Density  Class\n"
+            "         1  Steel                210000              0.3    7.85e-09  Isotropic, Elastic, Metal\n"
+            "         2  Material_2            70000            unset       unset  Isotropic, Elastic, Metal\n"
+            "         3  Material_3           208000              0.3        7800  Isotropic, Elastic, Metal\n",
+            done.stdout,
+        )
+        self.assertIn(
+            "\nCoordinate systems  1\n"
+            "        Id  Kind         Name              Nodes  Origin\n"
+            "        10  cylindrical  CyliCoordinate10      2  (0, 0, 5)\n",
+            done.stdout,
+        )
+
+    def test_json_has_all_values_of_properties_and_materials(self):
+        done = self.run_btz("inspect", "--json", self.write("properties.bdf", self.PROPERTIES_DECK))
+        model = json.loads(done.stdout)["model"]
+        self.assertEqual([part["id"] for part in model["parts"]], [7, 8, 9, 11])
+        self.assertEqual([part["properties"] for part in model["parts"]], [[0, 1], [2], [3], []])
+        self.assertEqual([prop["parts"] for prop in model["properties"]], [[0], [0], [1], [2]])
+        skin, bar, tube, solid = model["properties"]
+        self.assertEqual((skin["id"], skin["name"], skin["class"]), (7, "Flügelhaut", "Shell, Isotropic"))
+        self.assertEqual(skin["material"], {"number": 1, "name": "Steel"})
+        self.assertEqual(skin["values"]["Thickness"], 2.5)
+        self.assertIsNone(skin["values"]["Material_Bending"])
+        self.assertEqual((bar["values"]["Area"], bar["values"]["I1"]), (50.0, 416.7))
+        self.assertIsNone(bar["values"]["I2"])
+        self.assertEqual(tube["values"]["SectionParam"], "5.000000,3.000000")
+        self.assertEqual(solid["values"], {})
+        steel = model["materials"][0]
+        self.assertEqual((steel["number"], steel["name"], steel["values"]["Youngs_modulus"]), (1, "Steel", 210000.0))
+        self.assertIsNone(steel["values"]["Shear_modulus"])
+        self.assertEqual(model["nodesInLocalSystems"], 2)
+        self.assertEqual(
+            model["coordinate systems"],
+            [{"id": 10, "kind": "cylindrical", "name": "CyliCoordinate10", "origin": [0.0, 0.0, 5.0], "nodes": 2}],
+        )
+
+
 class Paths(ProgramTest):
     def test_a_name_in_any_script(self):
         deck = self.write("Flügel_翼.bdf", SMALL_DECK)

@@ -25,5 +25,21 @@ TEST(DisplayText, OtherCharactersAreEncoded) {
 
 TEST(DisplayText, ControlCharactersDoNotReachTheTerminal) { EXPECT_EQ(DisplayText(L"a\x1b[2Jb\n"), "a?[2Jb?"); }
 
+TEST(DisplayWidth, CharactersCountOnceAndWideOnesTwice) {
+  EXPECT_EQ(DisplayWidth(""), 0u);
+  EXPECT_EQ(DisplayWidth("Rib 7"), 5u);
+  EXPECT_EQ(DisplayWidth("Fl\xC3\xBCgel"), 6u);
+  EXPECT_EQ(DisplayWidth("\xE7\xBF\xBC"), 2u);      // U+7FFC
+  EXPECT_EQ(DisplayWidth("\xF0\xA0\x80\x80"), 2u);  // U+20000
+  EXPECT_EQ(DisplayWidth("e\xCC\x81"), 1u);         // A letter with a combining accent.
+}
+
+TEST(DisplayWidth, BytesThatAreNoUtf8CountOnceEach) {
+  EXPECT_EQ(DisplayWidth("a\xFF"
+                         "b"),
+            3u);
+  EXPECT_EQ(DisplayWidth("ab\xE7"), 3u);
+}
+
 }  // namespace
 }  // namespace btz::cli

@@ -25,7 +25,7 @@ RunReport SmallReport() {
   part.name = "Wing skin";
   part.elements = report.model.elements;
   report.model.parts.push_back(part);
-  report.model.groups = {{"properties", {}}, {"loads", {}}};
+  report.model.groups = {{"curves and fields", {}}, {"loads", {}}};
   report.model.isHandedOver = true;
   report.log.isPresent = true;
   report.log.isComplete = true;
@@ -80,10 +80,124 @@ TEST(ReportText, APartHasIdNumberNameAndItsElements) {
   EXPECT_EQ(LineWith(text, "rigid body"), "12 - (no name) (rigid body) none");
 }
 
+PropertySummary MakeProperty(const std::string& kind, const std::string& name, std::size_t part, std::vector<ValueSummary> values) {
+  PropertySummary property;
+  property.id = 7;
+  property.kind = kind;
+  property.name = name;
+  property.material = {5, "Steel"};
+  property.parts = {part};
+  property.values = std::move(values);
+  return property;
+}
+
+/// Adds a property to the model's list and to its part.
+void AddProperty(RunReport* report, const PropertySummary& property) {
+  report->model.parts[property.parts[0]].properties.push_back(report->model.properties.size());
+  report->model.properties.push_back(property);
+}
+
+TEST(ReportText, APropertyHasPartClassNameMaterialAndThickness) {
+  RunReport report = SmallReport();
+  AddProperty(&report, MakeProperty("Shell, Isotropic", "Sheet 2 mm", 0, {{"NSM", 1.0}, {"Thickness", 2.5}}));
+
+  const std::string text = ReportText(report);
+
+  EXPECT_THAT(text, HasSubstr("\nProperties          1\n"));
+  EXPECT_EQ(LineWith(text, "Sheet 2 mm"), "7 Shell, Isotropic Sheet 2 mm 5 Steel thickness 2.5");
+  EXPECT_THAT(text, Not(HasSubstr("without property")));
+}
+
+TEST(ReportText, PropertiesTableIsAligned) {
+  RunReport report = SmallReport();
+  AddProperty(&report, MakeProperty("Shell, Isotropic", "Sheet", 0, {{"Thickness", 2.5}}));
+  AddProperty(&report, MakeProperty("Bar, Bar", "", 0, {{"Area", 50.0}}));
+  report.model.properties[1].material.reset();
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nProperties          2\n"
+                                            "      Part  Class             Name       Material  Thickness or section\n"
+                                            "         7  Shell, Isotropic  Sheet      5 Steel   thickness 2.5\n"
+                                            "         7  Bar, Bar          (no name)  -         area 50\n"));
+}
+
+TEST(ReportText, ThicknessAndSectionFollowTheClass) {
+  RunReport report = SmallReport();
+  const ValueSummary noValue{"Thickness", {}};
+  AddProperty(&report, MakeProperty("Shell, Isotropic", "Blank", 0, {noValue}));
+  AddProperty(&report, MakeProperty("Bar, Bar", "Rod", 0, {{"SectionType", "O1Section"}, {"SectionParam", "5.000000"}, {"Area", 78.5}}));
+  AddProperty(&report, MakeProperty("Bar, Beam", "Tube", 0, {{"SectionParam", "5.250000,3.000000"}, {"Area", 50.0}}));
+  AddProperty(&report, MakeProperty("Bar, Beam", "Numbers", 0, {{"Area", {}}}));
+  AddProperty(&report, MakeProperty("Solid, Isotropic", "Block", 0, {}));
+  AddProperty(&report, MakeProperty("Solid, Gasket", "Seal", 0, {{"Initial_Gasket_Thickness", 1.5}}));
+
+  const std::string text = ReportText(report);
+
+  EXPECT_EQ(LineWith(text, "Blank"), "7 Shell, Isotropic Blank 5 Steel thickness unset");
+  EXPECT_EQ(LineWith(text, "Rod"), "7 Bar, Bar Rod 5 Steel full round 5");
+  EXPECT_EQ(LineWith(text, "Tube"), "7 Bar, Beam Tube 5 Steel hollow round 5.25, 3");
+  EXPECT_EQ(LineWith(text, "Numbers"), "7 Bar, Beam Numbers 5 Steel area unset");
+  EXPECT_EQ(LineWith(text, "Block"), "7 Solid, Isotropic Block 5 Steel -");
+  EXPECT_EQ(LineWith(text, "Seal"), "7 Solid, Gasket Seal 5 Steel thickness 1.5");
+}
+
+TEST(ReportText, PartsWithoutPropertyAreNamedAsFarAsTheyGo) {
+  RunReport report = SmallReport();
+  AddProperty(&report, MakeProperty("Shell, Isotropic", "Sheet", 0, {{"Thickness", 2.5}}));
+  PartSummary rigid;
+  rigid.id = 12;
+  rigid.isRigid = true;
+  report.model.parts.push_back(rigid);
+  for (std::int32_t id = 21; id <= 25; ++id) {
+    PartSummary part;
+    part.id = id;
+    part.name = id == 22 ? "" : "Body " + std::to_string(id);
+    report.model.parts.push_back(part);
+  }
+
+  const std::string text = ReportText(report);
+
+  EXPECT_EQ(LineWith(text, "without property"), "without property 5 parts: 21 Body 21, 22, 23 Body 23, 24 Body 24, ...");
+}
+
+TEST(ReportText, MaterialsShowTheirMainValuesOrThatTheyAreUnset) {
+  RunReport report = SmallReport();
+  report.model.materials = {{5,
+                             "Steel",
+                             "Isotropic, Elastic, Metal",
+                             {{"Youngs_modulus", 210000.0}, {"Shear_modulus", {}}, {"Poissons_ratio", 0.3}, {"Density", 7.85e-9}}},
+                            {12, "", "Isotropic, Elastic, Metal", {{"Youngs_modulus", 1.5}, {"Poissons_ratio", {}}}}};
+
+  EXPECT_THAT(ReportText(report),
+              HasSubstr("\nMaterials           2\n"
+                        "    Number  Name       Young's modulus  Poisson's ratio     Density  Class\n"
+                        "         5  Steel               210000              0.3    7.85e-09  Isotropic, Elastic, Metal\n"
+                        "        12  (no name)              1.5            unset       unset  Isotropic, Elastic, Metal\n"));
+}
+
+TEST(ReportText, SystemsShowKindNameNodesAndOrigin) {
+  RunReport report = SmallReport();
+  report.model.nodesInLocalSystems = 5;
+  report.model.systems = {{10, "cylindrical", "CyliCoordinate10", std::array<double, 3>{0.0, 30.5, -1e9}, 5},
+                          {4, "rectangular", "", {}, 0}};
+
+  const std::string text = ReportText(report);
+
+  EXPECT_THAT(text, HasSubstr("\nNodes               9\n  in local systems  5\n"));
+  EXPECT_THAT(text, HasSubstr("\nCoordinate systems  2\n"
+                              "        Id  Kind         Name              Nodes  Origin\n"
+                              "        10  cylindrical  CyliCoordinate10      5  (0, 30.5, -1e+09)\n"
+                              "         4  rectangular  (no name)             0  -\n"));
+}
+
+TEST(ReportText, NodesInLocalSystemsAreOnlyToldWhenThereAreSome) {
+  EXPECT_THAT(ReportText(SmallReport()), Not(HasSubstr("in local systems")));
+}
+
 TEST(ReportText, WhatTheModelDoesNotHaveTakesOneLine) {
   const std::string text = ReportText(SmallReport());
 
-  EXPECT_EQ(LineWith(text, "Not in the model"), "Not in the model properties, loads, load cases");
+  EXPECT_EQ(LineWith(text, "Not in the model"),
+            "Not in the model properties, materials, coordinate systems, curves and fields, loads, load cases");
 }
 
 TEST(ReportText, KindsShowTheirFirstNames) {
@@ -99,7 +213,8 @@ TEST(ReportText, KindsShowTheirFirstNames) {
   EXPECT_THAT(text, HasSubstr("\nLoads               7\n"));
   EXPECT_EQ(LineWith(text, "  forces"), "forces 6 PointForce1, PointForce2, PointForce3, PointForce4, ...");
   EXPECT_EQ(LineWith(text, "pressures"), "pressures 1 9");
-  EXPECT_EQ(LineWith(text, "Not in the model"), "Not in the model properties, load cases");
+  EXPECT_EQ(LineWith(text, "Not in the model"),
+            "Not in the model properties, materials, coordinate systems, curves and fields, load cases");
 }
 
 TEST(ReportText, LoadCasesTellWhatActsInThem) {
@@ -156,6 +271,32 @@ TEST(ReportJson, HoldsWhatTheTextHolds) {
   // A byte that is no UTF-8 becomes the replacement character.
   EXPECT_EQ(json["model"]["loads"]["forces"][0]["name"], "Pull \xEF\xBF\xBD");
   EXPECT_EQ(json["log"]["nodesRead"], 9);
+}
+
+TEST(ReportJson, PropertiesMaterialsAndSystemsHaveAllTheirValues) {
+  RunReport report = SmallReport();
+  AddProperty(&report,
+              MakeProperty("Bar, Bar", "Rod", 0, {{"SectionType", "O1Section"}, {"Nastran_Bar_Type", 1}, {"I1", {}}, {"Area", 78.5}}));
+  AddProperty(&report, MakeProperty("Solid, Isotropic", "Block", 0, {}));
+  report.model.properties[1].material.reset();
+  report.model.materials = {{5, "Steel", "Isotropic, Elastic, Metal", {{"Youngs_modulus", 210000.0}, {"Density", {}}}}};
+  report.model.nodesInLocalSystems = 5;
+  report.model.systems = {{10, "cylindrical", "CyliCoordinate10", std::array<double, 3>{0.0, 30.5, -1.0}, 5},
+                          {4, "rectangular", "", {}, 0}};
+
+  const nlohmann::json model = nlohmann::json::parse(ReportJson(report))["model"];
+
+  EXPECT_EQ(model["parts"][0]["properties"], nlohmann::json::parse("[0, 1]"));
+  EXPECT_EQ(model["properties"], nlohmann::json::parse(R"([
+    {"id": 7, "name": "Rod", "class": "Bar, Bar", "material": {"number": 5, "name": "Steel"}, "parts": [0],
+     "values": {"SectionType": "O1Section", "Nastran_Bar_Type": 1, "I1": null, "Area": 78.5}},
+    {"id": 7, "name": "Block", "class": "Solid, Isotropic", "material": null, "parts": [0], "values": {}}])"));
+  EXPECT_EQ(model["materials"], nlohmann::json::parse(R"([
+    {"number": 5, "name": "Steel", "class": "Isotropic, Elastic, Metal", "values": {"Youngs_modulus": 210000.0, "Density": null}}])"));
+  EXPECT_EQ(model["nodesInLocalSystems"], 5);
+  EXPECT_EQ(model["coordinate systems"], nlohmann::json::parse(R"([
+    {"id": 10, "kind": "cylindrical", "name": "CyliCoordinate10", "origin": [0.0, 30.5, -1.0], "nodes": 5},
+    {"id": 4, "kind": "rectangular", "name": "", "origin": null, "nodes": 0}])"));
 }
 
 }  // namespace

@@ -1,0 +1,128 @@
+#include "cli/report_tables.h"
+
+#include <fmt/format.h>
+
+#include <cstdlib>
+
+#include "cli/text_table.h"
+
+namespace btz::cli {
+
+namespace {
+
+constexpr const char* none = "-";
+constexpr const char* unset = "unset";
+
+std::string PartName(const PartSummary& part) {
+  std::string name = part.name.empty() ? "(no name)" : part.name;
+  return part.isRigid ? name + " (rigid body)" : name;
+}
+
+std::string NumberText(double number) { return fmt::format("{:g}", number); }
+
+/// The value of a key as a number; a value that the deck left blank, or that is not there, is unset.
+std::string NumberText(const std::vector<ValueSummary>& values, const char* key) {
+  const ValueSummary* value = FindValue(values, key);
+  const double* number = value == nullptr ? nullptr : std::get_if<double>(&value->value);
+  return number == nullptr ? unset : NumberText(*number);
+}
+
+/// "full round 5", or "hollow round 5, 3": the two sections that those of the section library become.
+std::string RoundSectionText(const std::string& dimensions) {
+  const std::size_t comma = dimensions.find(',');
+  const std::string first = NumberText(std::strtod(dimensions.c_str(), nullptr));
+  if (comma == std::string::npos) {
+    return "full round " + first;
+  }
+  return fmt::format("hollow round {}, {}", first, NumberText(std::strtod(dimensions.c_str() + comma + 1, nullptr)));
+}
+
+/// What a property says of the size of its part's elements.
+std::string SizeText(const std::vector<ValueSummary>& values) {
+  const ValueSummary* dimensions = FindValue(values, "SectionParam");
+  if (dimensions != nullptr && std::holds_alternative<std::string>(dimensions->value)) {
+    return RoundSectionText(std::get<std::string>(dimensions->value));
+  }
+  for (const auto& [key, word] : {std::pair{"Thickness", "thickness"}, {"Initial_Gasket_Thickness", "thickness"}, {"Area", "area"}}) {
+    if (FindValue(values, key) != nullptr) {
+      return fmt::format("{} {}", word, NumberText(values, key));
+    }
+  }
+  return none;
+}
+
+std::string MaterialText(const PropertySummary& property) {
+  if (!property.material) {
+    return none;
+  }
+  const std::string& name = property.material->name;
+  return name.empty() ? fmt::format("{}", property.material->number) : fmt::format("{} {}", property.material->number, name);
+}
+
+std::string OriginText(const SystemSummary& system) {
+  if (!system.origin) {
+    return none;
+  }
+  const auto& [x, y, z] = *system.origin;
+  return fmt::format("({:g}, {:g}, {:g})", x, y, z);
+}
+
+}  // namespace
+
+std::string CountsText(const ElementCounts& counts) {
+  std::vector<std::string> parts;
+  for (std::size_t type = 0; type < counts.size(); ++type) {
+    if (counts[type] != 0) {
+      parts.push_back(fmt::format("{} {}", counts[type], ElementTypeName(type)));
+    }
+  }
+  return parts.empty() ? "none" : fmt::format("{}", fmt::join(parts, "; "));
+}
+
+std::string PartsTable(const ModelSummary& model) {
+  TextTable table({{"Id", Align::Right, 8}, {"Number", Align::Right}, {"Name"}, {"Elements"}});
+  for (const PartSummary& part : model.parts) {
+    const std::string number = part.number == 0 ? none : fmt::format("{}", part.number);
+    table.Add({fmt::format("{}", part.id), number, PartName(part), CountsText(part.elements)});
+  }
+  return table.Text();
+}
+
+std::string PropertiesTable(const ModelSummary& model) {
+  TextTable table({{"Part", Align::Right, 8}, {"Class"}, {"Name"}, {"Material"}, {"Thickness or section"}});
+  for (const PropertySummary& property : model.properties) {
+    std::vector<std::int32_t> partIds;
+    for (const std::size_t part : property.parts) {
+      partIds.push_back(model.parts[part].id);
+    }
+    table.Add({partIds.empty() ? none : fmt::format("{}", fmt::join(partIds, ", ")), property.kind,
+               property.name.empty() ? "(no name)" : property.name, MaterialText(property), SizeText(property.values)});
+  }
+  return table.Text();
+}
+
+std::string MaterialsTable(const ModelSummary& model) {
+  TextTable table({{"Number", Align::Right, 8},
+                   {"Name"},
+                   {"Young's modulus", Align::Right},
+                   {"Poisson's ratio", Align::Right},
+                   {"Density", Align::Right, 10},
+                   {"Class"}});
+  for (const MaterialSummary& material : model.materials) {
+    table.Add({fmt::format("{}", material.number), material.name.empty() ? "(no name)" : material.name,
+               NumberText(material.values, "Youngs_modulus"), NumberText(material.values, "Poissons_ratio"),
+               NumberText(material.values, "Density"), material.kind});
+  }
+  return table.Text();
+}
+
+std::string SystemsTable(const ModelSummary& model) {
+  TextTable table({{"Id", Align::Right, 8}, {"Kind"}, {"Name"}, {"Nodes", Align::Right}, {"Origin"}});
+  for (const SystemSummary& system : model.systems) {
+    table.Add({fmt::format("{}", system.id), system.kind, system.name.empty() ? "(no name)" : system.name, fmt::format("{}", system.nodes),
+               OriginText(system)});
+  }
+  return table.Text();
+}
+
+}  // namespace btz::cli
