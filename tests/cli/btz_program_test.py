@@ -409,7 +409,7 @@ class Report(ProgramTest):
         + card("PSOLID", 9, 2)
         + TRIANGLE
         + card("CBAR", 12, 7, 1, 2, "0.0", "1.0", "0.0")
-        + card("CBEAM", 13, 8, 1, 3)
+        + card("CBEAM", 13, 8, 1, 3, "0.0", "1.0", "0.0")
         + card("CTETRA", 21, 9, 1, 2, 3, 4)
         + card("CTRIA3", 14, 11, 1, 2, 3)
         + card("MAT1", 1, "210000.0", "", "0.3", "7.85-9")
