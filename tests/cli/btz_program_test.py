@@ -475,6 +475,15 @@ class Report(ProgramTest):
             [{"id": 10, "kind": "cylindrical", "name": "CyliCoordinate10", "origin": [0.0, 0.0, 5.0], "nodes": 2}],
         )
 
+    def test_the_readme_shows_what_the_example_gives(self):
+        project = pathlib.Path(__file__).resolve().parents[2]
+        done = self.run_btz("inspect", str(project / "examples" / "bracket.bdf"))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        readme = (project / "README.md").read_text(encoding="utf-8")
+        shown = readme.split("```\nDeck ", 1)[1].split("```", 1)[0]
+        report = [line for line in done.stdout.splitlines() if not line.startswith("Time ")]
+        self.assertEqual(("Deck " + shown).splitlines(), report[: shown.count("\n")])
+
 
 class Paths(ProgramTest):
     def test_a_name_in_any_script(self):
