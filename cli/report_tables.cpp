@@ -37,15 +37,23 @@ std::string RoundSectionText(const std::string& dimensions) {
   return fmt::format("hollow round {}, {}", first, NumberText(std::strtod(dimensions.c_str() + comma + 1, nullptr)));
 }
 
+/// The keys that tell a size by one number, the first that a property has.
+struct SizeKey {
+  const char* key;
+  const char* word;
+};
+
+constexpr SizeKey sizeKeys[] = {{"Thickness", "thickness"}, {"Initial_Gasket_Thickness", "thickness"}, {"Area", "area"}};
+
 /// What a property says of the size of its part's elements.
 std::string SizeText(const std::vector<ValueSummary>& values) {
   const ValueSummary* dimensions = FindValue(values, "SectionParam");
   if (dimensions != nullptr && std::holds_alternative<std::string>(dimensions->value)) {
     return RoundSectionText(std::get<std::string>(dimensions->value));
   }
-  for (const auto& [key, word] : {std::pair{"Thickness", "thickness"}, {"Initial_Gasket_Thickness", "thickness"}, {"Area", "area"}}) {
-    if (FindValue(values, key) != nullptr) {
-      return fmt::format("{} {}", word, NumberText(values, key));
+  for (const SizeKey& size : sizeKeys) {
+    if (FindValue(values, size.key) != nullptr) {
+      return fmt::format("{} {}", size.word, NumberText(values, size.key));
     }
   }
   return none;
