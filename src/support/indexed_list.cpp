@@ -7,13 +7,13 @@ namespace {
 constexpr std::uint32_t fewestSlots = 64;
 
 /// Slot of `id`, or the free slot where it belongs. The table always has a free one.
-IndexedSlot* SlotOf(IndexedSlot* slots, std::uint32_t slotCount, std::int32_t id) {
-  // 2^32 divided by the golden ratio spreads ids that differ by a common step.
-  std::uint32_t at = static_cast<std::uint32_t>(id) * 2654435769u;
-  at ^= at >> 16;
+IndexedSlot* SlotOf(IndexedSlot* slots, std::uint32_t slotCount, std::int64_t id) {
+  // 2^64 divided by the golden ratio spreads ids that differ by a common step.
+  const std::uint64_t spread = static_cast<std::uint64_t>(id) * 0x9E3779B97F4A7C15u;
+  auto at = static_cast<std::uint32_t>(spread >> 32);
   while (true) {
     IndexedSlot* slot = &slots[at & (slotCount - 1)];
-    if (slot->first == nullptr || slot->id == id) {
+    if (slot->first == nullptr || slot->first->id == id) {
       return slot;
     }
     ++at;
@@ -33,7 +33,7 @@ bool GrowIndex(IndexedList* list) {
   for (std::uint32_t i = 0; i < list->slotCount; ++i) {
     const IndexedSlot& slot = list->slots[i];
     if (slot.first != nullptr) {
-      *SlotOf(slots, slotCount, slot.id) = slot;
+      *SlotOf(slots, slotCount, slot.first->id) = slot;
     }
   }
   ReleaseMemory(list->slots);
@@ -42,25 +42,26 @@ bool GrowIndex(IndexedList* list) {
   return true;
 }
 
-void EnterInOrder(IndexedList* list, IndexedCell* cell) {
-  if (list->last == nullptr) {
-    list->first = cell;
-  } else {
-    list->last->next = cell;
+/// A cell for one record more, with room in the index; null when memory ran out.
+IndexedCell* NewCell(IndexedList* list, std::int64_t id, void* record) {
+  auto* cell = static_cast<IndexedCell*>(PoolAllocate(&list->cells, sizeof(IndexedCell)));
+  if (cell == nullptr || !GrowIndex(list)) {
+    return nullptr;
   }
-  list->last = cell;
+  *cell = {nullptr, nullptr, record, id};
   ++list->size;
+  return cell;
 }
 
-void EnterInIndex(IndexedList* list, std::int32_t id, IndexedCell* cell) {
-  IndexedSlot* slot = SlotOf(list->slots, list->slotCount, id);
-  if (slot->first == nullptr) {
-    *slot = {id, cell, cell};
+/// The slot of the cell's id, in use; a new one holds the cell as the only record of the id and is told by `*isNew`.
+IndexedSlot* SlotWith(IndexedList* list, IndexedCell* cell, bool* isNew) {
+  IndexedSlot* slot = SlotOf(list->slots, list->slotCount, cell->id);
+  *isNew = slot->first == nullptr;
+  if (*isNew) {
+    *slot = {cell, cell};
     ++list->idCount;
-    return;
   }
-  slot->last->nextOfId = cell;
-  slot->last = cell;
+  return slot;
 }
 
 }  // namespace
@@ -70,17 +71,44 @@ void IndexedListInit(IndexedList* list) {
   PoolInit(&list->cells);
 }
 
-void IndexedListAppend(IndexedList* list, std::int32_t id, void* record) {
-  auto* cell = static_cast<IndexedCell*>(PoolAllocate(&list->cells, sizeof(IndexedCell)));
-  if (cell == nullptr || !GrowIndex(list)) {
+void IndexedListAppend(IndexedList* list, std::int64_t id, void* record) {
+  IndexedCell* cell = NewCell(list, id, record);
+  if (cell == nullptr) {
     return;
   }
-  *cell = {nullptr, nullptr, record};
-  EnterInOrder(list, cell);
-  EnterInIndex(list, id, cell);
+  if (list->last == nullptr) {
+    list->first = cell;
+  } else {
+    list->last->next = cell;
+  }
+  list->last = cell;
+  bool isNew = false;
+  IndexedSlot* slot = SlotWith(list, cell, &isNew);
+  if (!isNew) {
+    slot->last->nextOfId = cell;
+    slot->last = cell;
+  }
 }
 
-const IndexedCell* IndexedListFind(const IndexedList* list, std::int32_t id) {
+void IndexedListPrepend(IndexedList* list, std::int64_t id, void* record) {
+  IndexedCell* cell = NewCell(list, id, record);
+  if (cell == nullptr) {
+    return;
+  }
+  if (list->last == nullptr) {
+    list->last = cell;
+  }
+  cell->next = list->first;
+  list->first = cell;
+  bool isNew = false;
+  IndexedSlot* slot = SlotWith(list, cell, &isNew);
+  if (!isNew) {
+    cell->nextOfId = slot->first;
+    slot->first = cell;
+  }
+}
+
+const IndexedCell* IndexedListFind(const IndexedList* list, std::int64_t id) {
   return list->slots == nullptr ? nullptr : SlotOf(list->slots, list->slotCount, id)->first;
 }
 

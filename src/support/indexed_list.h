@@ -1,5 +1,5 @@
-// Records in the order in which they were captured, and, for each id, the records that bear it in that same order: what a search through the
-// whole list for an id would meet, without the search. A deck may have millions of cards, and the stages ask once for each part or bar.
+// Records in an order of their own, and, for each id, the records that bear it in that same order: what a search through the whole list for an
+// id would meet, without the search. A deck may have millions of cards, and the stages ask once for each part or bar.
 #pragma once
 
 #include <btz/containers.h>
@@ -13,11 +13,11 @@ struct IndexedCell {
   IndexedCell* next;      ///< Next record of the list, null at the end.
   IndexedCell* nextOfId;  ///< Next record of the same id, null at the end.
   void* record;
+  std::int64_t id;
 };
 
 /// Slot of the index. A free slot has no first cell.
 struct IndexedSlot {
-  std::int32_t id;
   IndexedCell* first;
   IndexedCell* last;
 };
@@ -37,10 +37,19 @@ struct IndexedList {
 void IndexedListInit(IndexedList* list);
 
 /// Puts `record` at the end of both orders. When memory runs out it is in neither.
-void IndexedListAppend(IndexedList* list, std::int32_t id, void* record);
+void IndexedListAppend(IndexedList* list, std::int64_t id, void* record);
+
+/// Puts `record` at the head of both orders. When memory runs out it is in neither.
+void IndexedListPrepend(IndexedList* list, std::int64_t id, void* record);
 
 /// The first record of `id`, from which `nextOfId` leads to the others; null if there is none. Any integer may be an id.
-const IndexedCell* IndexedListFind(const IndexedList* list, std::int32_t id);
+const IndexedCell* IndexedListFind(const IndexedList* list, std::int64_t id);
+
+/// An id made of two numbers.
+inline std::int64_t PairId(std::int32_t first, std::int32_t second) {
+  return static_cast<std::int64_t>((static_cast<std::uint64_t>(static_cast<std::uint32_t>(first)) << 32) |
+                                   static_cast<std::uint32_t>(second));
+}
 
 /// Forgets all records and releases the list's memory. The records are not touched.
 void IndexedListClear(IndexedList* list);

@@ -3,6 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include <random>
+
+#include "support/text.h"
 #include "tests/unit/mesh/mesh_fixture.h"
 
 namespace btz::test {
@@ -96,6 +99,36 @@ TEST_F(PartNamesTest, EveryPartIsFirstUnmarkedAndThenMarked) {
   MakePartNamesUnique();
   EXPECT_THAT(Calls(), ElementsAre("MeshPart#1.SetNamed(0)", "MeshPart#2.SetNamed(0)", "MeshPart#1.SetNamed(1)",
                                    "MeshPart#2.SetName(\"A_1\")", "MeshPart#2.SetNamed(1)"));
+}
+
+/// Part names made unique the plain way: for each part in turn, a walk over all.
+std::vector<std::wstring> UniqueByPlainWalks(std::vector<std::wstring> names) {
+  std::vector<bool> isNamed(names.size(), false);
+  std::int32_t suffix = 1;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    isNamed[i] = true;
+    for (std::size_t j = 0; j < names.size(); ++j) {
+      if (!isNamed[j] && CompareNoCase(names[j].c_str(), names[i].c_str()) == 0) {
+        names[j] = (names[i] + L"_" + std::to_wstring(suffix++)).substr(0, 255);
+      }
+    }
+  }
+  return names;
+}
+
+TEST_F(PartNamesTest, ManyNamesBecomeWhatPlainWalksMakeOfThem) {
+  std::mt19937 random(7);
+  // Names that meet those that renaming makes, in both cases, and one so long that its number is cut off.
+  const std::vector<std::wstring> stems = {L"a", L"A", L"a_1", L"A_2", L"a_1_3", L"b", L"B_4", L"", L"_1", std::wstring(255, L'x')};
+  for (int round = 0; round < 200; ++round) {
+    ListClear(&PartList);
+    std::vector<std::wstring> names;
+    for (std::uint32_t count = random() % 40; count != 0; --count) {
+      names.push_back(stems[random() % stems.size()]);
+      AddPart(names.back());
+    }
+    ASSERT_EQ(UniqueNames(), UniqueByPlainWalks(names)) << "round " << round;
+  }
 }
 
 TEST_F(PartNamesTest, WithoutPartsNothingHappens) { EXPECT_TRUE(UniqueNames().empty()); }
