@@ -4,74 +4,30 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "deck/card_boundaries.h"
 #include "deck/deck_text.h"
+#include "deck/plain_fields.h"
 
 namespace btz {
 namespace {
 
 using test::DeckText;
-
-bool IsPlainSpace(char c) { return std::strchr(" \t\n\v\f\r", c) != nullptr && c != 0; }
-
-bool IsPlainLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-
-/// The next `width` bytes, compacted: trimmed, then the characters that are no space moved down over the text, which keeps its length.
-std::string PlainField(const std::string& content, std::size_t place, std::size_t width) {
-  std::string text = content.substr(place, width);
-  text = text.substr(0, text.find('\0'));
-  while (!text.empty() && IsPlainSpace(text.back())) {
-    text.pop_back();
-  }
-  while (!text.empty() && IsPlainSpace(text.front())) {
-    text.erase(text.begin());
-  }
-  const std::string trimmed = text;
-  std::size_t to = 0;
-  for (const char c : trimmed) {
-    if (!IsPlainSpace(c)) {
-      text[to++] = c;
-    }
-  }
-  return text;
-}
-
-bool PlainMark(const std::string& text) {
-  for (const char c : text) {
-    if (IsPlainLetter(c)) {
-      return false;
-    }
-    if (c == '+') {
-      return true;
-    }
-  }
-  return false;
-}
-
-bool PlainText(const std::string& text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-    if ((text[i] == 'E' || text[i] == 'e') && (next == '+' || next == '-')) {
-      continue;
-    }
-    if (IsPlainLetter(text[i]) || text[i] == '$') {
-      return true;
-    }
-  }
-  return false;
-}
+using test::PlainDecimal;
+using test::PlainField;
+using test::PlainInteger;
+using test::PlainMark;
+using test::PlainSkip;
+using test::PlainText;
 
 bool PlainZero(const std::string& text, NumericTest test) {
   if (test == NumericTest::Integer) {
     return static_cast<std::uint32_t>(std::strtoll(text.c_str(), nullptr, 10)) == 0;
   }
-  // Only the characters of a decimal number: the system's conversion may know infinities, hexadecimal digits and other exponent letters.
-  return std::strtod(text.substr(0, text.find_first_not_of("0123456789.+-Ee")).c_str(), nullptr) == 0.0;
+  return PlainDecimal(text) == 0.0;
 }
 
 FieldKind PlainKind(const std::string& content, std::size_t place, const FieldWalk& walk) {
@@ -175,30 +131,9 @@ class PlainWalk {
   std::size_t Place() const { return place; }
 
  private:
-  char At(std::size_t where) const { return where < content.size() ? content[where] : '\0'; }
+  int Skip(std::int32_t width) { return PlainSkip(content, &place, width); }
 
-  int Skip(std::int32_t width) {
-    if (At(place) == 0) {
-      return 1;
-    }
-    for (std::int32_t i = 0; i < width && At(place) != 0; ++i) {
-      if (At(place) == '\n') {
-        ++place;
-        break;
-      }
-      ++place;
-    }
-    place += At(place) == '\n' ? 1 : 0;
-    return 0;
-  }
-
-  void ReadInteger(std::int32_t width, std::int32_t* value) {
-    std::string field;
-    while (static_cast<std::int32_t>(field.size()) < width && At(place) != '\n' && At(place) != 0) {
-      field += At(place++);
-    }
-    *value = static_cast<std::int32_t>(std::strtoll(field.c_str(), nullptr, 10));
-  }
+  void ReadInteger(std::int32_t width, std::int32_t* value) { *value = PlainInteger(content, &place, width); }
 
   const std::string& content;
   std::size_t place;
