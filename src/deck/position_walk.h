@@ -19,7 +19,8 @@ enum class PositionKind {
 /// What the field of `width` columns at the cursor is. Nothing moves. `text` gets the compacted text; it is empty for a blank.
 PositionKind ClassifyPosition(const char* cursor, std::int32_t width, FieldText& text);
 
-/// Reads up to `count` reals of a card by position and returns how many were reached. `blanks[i]` becomes 1 for a blank field, which reads as 0.0,
+/// Reads up to `count` reals of a card by position and returns how many were reached. Required: a label of a continuation line that is a number
+/// (`+1`) is a value, and the positions left at the text's end are blank ones. `blanks[i]` becomes 1 for a blank field, which reads as 0.0,
 /// and 0 for another; values and marks of positions that were not reached keep what they had. The cursor ends on what was not consumed.
 std::int32_t WalkPositions(CardCursor* cursor, std::int32_t width, double* values, std::uint8_t* blanks, std::int32_t count);
 

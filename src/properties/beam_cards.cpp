@@ -60,7 +60,8 @@ class SectionWalk {
   }
 
   /// A blank field that is no value: the empty eighth field of a bar card's first line, and, on a card without continuation marks, the blank
-  /// marker of its third line.
+  /// marker of its third line. Required: it is told by its position alone, so a blank C1 of a bar is stepped over too, as is a blank K1 (F2 of a
+  /// beam) on a card without marks, and the value behind it takes the place.
   bool IsPadding() const { return (position_ == 5 && record_->isBeam == 0) || (position_ == 13 && !markSeen_); }
 
   std::size_t Slot() const { return (record_->isBeam != 0 ? beamPositions : barPositions)[position_]; }
@@ -83,7 +84,8 @@ class SectionWalk {
 /// How the dimensions of a library section are understood.
 enum class SectionClass { Unknown, TwoDimensions, OneDimension };
 
-/// Class of the section word at the start of `text`.
+/// Class of the section word at the start of `text`. Required: only the head counts (`CHAN`, `TUBE2`, but a `BAROR` card too), and only in upper
+/// case; no other section is known.
 SectionClass ClassOfSection(const char* text) {
   if (BeginsWithKeyword(text, "ROD")) {
     return SectionClass::OneDimension;
@@ -96,6 +98,7 @@ SectionClass ClassOfSection(const char* text) {
   return SectionClass::Unknown;
 }
 
+// Required: of a section with more dimensions the third counts as the mass.
 constexpr std::int32_t mostDimensions = 3;
 
 /// Collects the numbers behind GROUP and the class of the section word among them.

@@ -9,7 +9,7 @@
 
 namespace btz {
 
-// The cursor stands at the first column of the card and ends where its last value did.
+// The cursor stands at the first column of the card and ends on what the card did not take.
 
 /// `PSHELL`, `PSHELL*`: adds a PshellRecord.
 void ReadPshellCard(CardCursor* cursor, IndexedList* pshellList);
