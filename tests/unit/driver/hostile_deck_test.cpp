@@ -31,6 +31,8 @@ const std::string mixedDeck =
     "+A      2       3\n + \nCPENTA  9       8       1       2       3\nCPYRA,10,8,1,2,3,4.0,5\nCPYRAM  11      8       1       2       3  "
     "     4\n"
     "MAT1    1       2.1+5\nPSHELL  7       1       1.5\nLOAD    3       1.      1.      4\nSPCADD  9       1\nFREQ,1,2.\n"
+    "$Bar\nPBAR    7       1       1.0     2.0     2.0     4.0                     +B\n+B      0.5     -.5\nPBEAM*  8               1\n"
+    "$ Bar: 9\nPBARL   9       1               TUBE    5.0     3.0\nPSOLID  8       1\nPGASK   10      1                       0.5\n"
     "FORCE   4       1       0       10.     0.      0.      1.\nMOMENT  4       1\nPLOAD4  4       7       1.0\n"
     "SPC     1       1       123     0.\nSPC1    1       123456  1       THRU    3\nTEMP    1       1       20.\n"
     "$ my set\nSET 3 = 1, 2, THRU, 5\nSET 4 GRID LIST 1\nSURF    1\nPLOTEL  20      1       2\nRBE2    30      1       123     2       3\n"
