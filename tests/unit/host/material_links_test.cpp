@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
+#include <random>
 #include <vector>
 
 #include "memory_host/memory_host.h"
@@ -60,6 +62,24 @@ TEST_F(MaterialLinksTest, AnyIntegerCanBeAnId) {
   AddLink(&lowest);
   EXPECT_EQ(Resolve(0), std::vector<std::int32_t>{3});
   EXPECT_EQ(Resolve(-2147483647 - 1), std::vector<std::int32_t>{4});
+}
+
+TEST_F(MaterialLinksTest, TheIndexFindsWhatAWalkFromTheStartWouldFind) {
+  std::mt19937 random(7);
+  std::uniform_int_distribution<std::int32_t> anyId(-200, 2000);
+  std::deque<MaterialLink> links;
+  for (std::int32_t number = 1; number <= 2000; ++number) {
+    AddLink(&links.emplace_back(MaterialLink{anyId(random), number, nullptr}));
+    const std::int32_t asked = anyId(random);
+    std::vector<std::int32_t> expected{-1, asked};
+    for (const MaterialLink& link : links) {
+      if (link.materialId == asked) {
+        expected = {link.number};
+        break;
+      }
+    }
+    ASSERT_EQ(Resolve(asked), expected) << "id " << asked << " among " << number << " links";
+  }
 }
 
 // Look-ups in a host; the default material is a bare one, its calls are counted.

@@ -60,5 +60,13 @@ TEST_F(ContradictoryStoreTest, AnyResultButZeroIsARefusedMaterial) {
   EXPECT_EQ(Links().size(), 1u);
 }
 
+TEST_F(ContradictoryStoreTest, AStoreThatTakesAnIdTwiceGivesTwoLinks) {
+  CreateDefaultMaterial(&store, &run.lists.materials, 5);
+  CreateDefaultMaterial(&store, &run.lists.materials, 5);
+  ASSERT_EQ(Links().size(), 2u);
+  EXPECT_EQ(Links()[0]->materialId, 5);
+  EXPECT_EQ(Links()[1]->materialId, 5);
+}
+
 }  // namespace
 }  // namespace btz::test
