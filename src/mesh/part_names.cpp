@@ -57,15 +57,14 @@ class PartNames {
     }
   }
 
-  /// Takes the parts that bear the name of `part`, itself included, out of their bag and calls `visit` for each of the others, in the order of
-  /// PartList.
+  /// Takes `part` and the other parts that bear its name out of their bag and calls `visit` for each of the others, in the order of PartList.
   template <typename Visit>
-  void TakeNamesakes(MeshPart* part, Visit visit) {
-    NameBag* bag = BagOf(KeyOf(part->GetName()));
+  void TakeNamesakes(MeshPart* part, const wchar_t* name, Visit visit) {
+    NameBag* bag = BagOf(KeyOf(name));
     if (bag == nullptr) {
       return;
     }
-    HeapArray<PartEntry*> namesakes(TakeOut(bag, part));
+    HeapArray<PartEntry*> namesakes(TakeOut(bag, part, name));
     std::size_t count = 0;
     for (PartEntry* entry = taken_; entry != nullptr && count < namesakes.size(); entry = entry->next) {
       namesakes[count++] = entry;
@@ -91,13 +90,13 @@ class PartNames {
     return bag;
   }
 
-  /// Moves the parts with the name of `part` from the bag to `taken_` and returns their number.
-  std::size_t TakeOut(NameBag* bag, MeshPart* part) {
+  /// Moves `part` and the other parts with its name from the bag to `taken_` and returns their number.
+  std::size_t TakeOut(NameBag* bag, MeshPart* part, const wchar_t* name) {
     std::size_t count = 0;
     taken_ = nullptr;
     for (PartEntry** link = &bag->first; *link != nullptr;) {
       PartEntry* entry = *link;
-      if (CompareNoCase(entry->part->GetName(), part->GetName()) != 0) {
+      if (entry->part != part && CompareNoCase(entry->part->GetName(), name) != 0) {
         link = &entry->next;
         continue;
       }
@@ -134,12 +133,13 @@ void MakePartNamesUnique() {
       continue;
     }
     part->SetNamed(1);
-    names.TakeNamesakes(part, [&](PartEntry* other) {
+    const wchar_t* name = part->GetName();
+    names.TakeNamesakes(part, name, [&](PartEntry* other) {
       if (other->part->IsNamed() != 0) {
         return;
       }
       wchar_t unique[partNameCapacity];
-      FormatSuffixed(unique, partNameCapacity, part->GetName(), suffix++);
+      FormatSuffixed(unique, partNameCapacity, name, suffix++);
       other->part->SetName(unique);
       names.Enter(other);
     });
