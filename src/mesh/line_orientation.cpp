@@ -23,10 +23,7 @@ Omitted OmittedComponent(const Vector& d) {
   const double ax = std::fabs(d[0]);
   const double ay = std::fabs(d[1]);
   const double az = std::fabs(d[2]);
-  if (ax == ay && ay == az) {
-    return Omitted::X;
-  }
-  if (ay == az) {
+  if (ay == az) {  // Also when all three are equal.
     return ax > ay ? Omitted::Y : Omitted::X;
   }
   if (ax == ay) {

@@ -102,10 +102,8 @@ SineAndCosine ComputeSineAndCosine(double angle) {
     const double none = angle - angle;
     return {none, none};
   }
-  if (angle == 0.0) {
-    return {angle, 1.0};  // Keeps the sign of a zero.
-  }
-  constexpr double tiny = 7.450580596923828e-9;  // 2^-27: the next term of the sine lies below half of the last place.
+  // Below 2^-27 the next term of the sine lies below half of the last place. A zero keeps its sign.
+  constexpr double tiny = 7.450580596923828e-9;
   if (std::fabs(angle) < tiny) {
     return {angle, 1.0};
   }
