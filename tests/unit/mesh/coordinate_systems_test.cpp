@@ -173,12 +173,9 @@ TEST_F(Cord2Card, OtherTextIsReadAsANumber) {
 }
 
 TEST_F(Cord2Card, TheNumericTestTakesFractions) {
-  // As whole numbers these would be 0, and the keywords behind them would end the card.
-  Read2(rectangularSystem, Card8({"CORD2R", "5", "0", ".5E1", ".25D0", "3.0"}) + "     \nGRID\n");
-  // D is a digit of value 20: .25D0 is 0.2 + 0.05 + 0.020 + 0.
-  const std::vector<std::string> points = HelperNodes();
-  ASSERT_EQ(points.size(), 3u);
-  EXPECT_EQ(points[0], "(5.0, 0.27, 3.0)");
+  // As whole numbers these would be 0, and the star would make the first of them a marker that is stepped over.
+  Read2(rectangularSystem, Card8({"CORD2R", "5", "0", ".5*", ".5E1", "3.0"}) + "     \nGRID\n");
+  EXPECT_THAT(HelperNodes(), ElementsAre("(0.5, 5.0, 3.0)", "(0.0, 0.0, 0.0)", "(0.0, 0.0, 0.0)"));
 }
 
 TEST_F(Cord2Card, AnExponentWithoutItsLetterIsPassedOverAsAMark) {
@@ -343,6 +340,26 @@ TEST_F(Cord1Card, TheSecondSystemNeedsAllItsFields) {
   EXPECT_THAT(Ids(), ElementsAre(5, 7, 8, 9));
 }
 
+TEST_F(Cord1Card, TheNodesOfAnIncompleteSecondSystemAreNotAskedFor) {
+  for (const std::vector<std::string>& second :
+       {std::vector<std::string>{"6", "0", "1", "3"}, {"6", "2", "0", "3"}, {"6", "2", "1", "0"}}) {
+    std::vector<std::string> fields = {"CORD1R", "5", "1", "4", "2"};
+    fields.insert(fields.end(), second.begin(), second.end());
+    std::string asked;
+    TraceSink questions(&asked, TraceSink::Coverage::All);
+    host.SetTrace(&questions);
+    Read1(rectangularSystem, Card8(fields) + "       \nGRID    1\n");
+    host.SetTrace(&sink);
+    std::vector<std::string> nodes;
+    for (const std::string& line : LinesOf(asked)) {
+      if (line.find("MeshModel.GetNode(") == 0) {
+        nodes.push_back(line);
+      }
+    }
+    EXPECT_THAT(nodes, ElementsAre("MeshModel.GetNode(1) -> n1", "MeshModel.GetNode(4) -> n4", "MeshModel.GetNode(2) -> n2"));
+  }
+}
+
 TEST_F(Cord1Card, EachSystemStandsForItself) {
   Read1(rectangularSystem, Card8({"CORD1R", "5", "1", "4", "99", "6", "2", "1", "3"}) + "       \nGRID    1\n");
   Read1(rectangularSystem, Card8({"CORD1R", "7", "1", "4", "2", "8", "2", "99", "3"}) + "       \nGRID    1\n");
@@ -368,9 +385,23 @@ TEST_F(Cord1Card, LargeFieldsHaveSixteenColumns) {
   EXPECT_EQ(rest, "\nGRID    1\n");
 }
 
+TEST_F(Cord1Card, ALargeFieldIsTakenAsAWhole) {
+  // The last node's two digits stand on both sides of the field's middle.
+  const std::string lastNode = "       13       ";
+  Read1(rectangularSystem, Card16({"CORD1R*", "5", "1", "4", lastNode}) + "\nGRID    1\n");
+  Read1(cylindricalSystem, Card16({"CORD1C*", "6", "1", "4", lastNode}) + "\nGRID    1\n");
+  EXPECT_THAT(SystemNodes(), ElementsAre("(n1, n4, n13)", "(n1, n4, n13)"));
+}
+
 TEST_F(Cord1Card, ABlankFieldTakesNoPlace) {
   Read1(rectangularSystem, Card8({"CORD1R", "5", "", "1", "4", "2"}) + "       \nGRID    1\n");
   EXPECT_THAT(SystemNodes(), ElementsAre("(n1, n4, n2)"));
+}
+
+TEST_F(Cord1Card, TheNumericTestTakesFractions) {
+  // A fraction with a star is no marker but takes a place, with the id 0.
+  Read1(rectangularSystem, Card8({"CORD1R", "5", ".9*", "1", "4", "2"}) + "       \nGRID    1\n");
+  EXPECT_THAT(Calls(), IsEmpty());
 }
 
 TEST_F(Cord1Card, WithoutAnIdNothingIsMade) {

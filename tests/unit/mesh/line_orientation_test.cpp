@@ -186,6 +186,9 @@ TEST(DefaultLineOrientation, ThreeSizesWithOneThatIsNoNumberGiveNone) {
   EXPECT_EQ(DirectionFor({none, 1.0, 2.0}), (Vector{0.0, 0.0, 0.0}));
   EXPECT_EQ(DirectionFor({1.0, none, 2.0}), (Vector{0.0, 0.0, 0.0}));
   EXPECT_EQ(DirectionFor({2.0, 1.0, none}), (Vector{0.0, 0.0, 0.0}));
+  EXPECT_EQ(DirectionFor({none, 2.0, 1.0}), (Vector{0.0, 0.0, 0.0}));
+  EXPECT_EQ(DirectionFor({2.0, none, 1.0}), (Vector{0.0, 0.0, 0.0}));
+  EXPECT_EQ(DirectionFor({1.0, 2.0, none}), (Vector{0.0, 0.0, 0.0}));
   EXPECT_EQ(DirectionFor({none, none, none}), (Vector{0.0, 0.0, 0.0}));
 }
 

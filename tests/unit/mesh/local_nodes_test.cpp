@@ -252,6 +252,22 @@ TEST_F(LocalNodesTest, AnElementWithoutItsMidSideNodesHasANormal) {
   EXPECT_EQ(VectorAt(Element(101)->normal), (Vector{0.0, 0.0, 1.0}));
 }
 
+TEST_F(LocalNodesTest, AnElementThatLacksACornerKeepsItsNormal) {
+  EnsurePart(model, 7, partOfSurfaces);
+  AddSystem(5, rectangularSystem, noTurn, {0.0, 0.0, 0.0});
+  MakeNode(1, {0.0, 0.0, 0.0}, 5);
+  MakeNode(2, {1.0, 0.0, 0.0}, 5);
+  MakeNode(3, {0.0, 1.0, 0.0}, 5);
+  for (std::int32_t corner = 0; corner < 3; ++corner) {
+    MakeElement(101 + corner, elementTria3, {1, 2, 3});
+    Element(101 + corner)->nodes[corner] = nullptr;
+  }
+  Apply();
+  for (std::int32_t id = 101; id <= 103; ++id) {
+    EXPECT_EQ(VectorAt(Element(id)->normal), (Vector{0.0, 0.0, 0.0})) << id;
+  }
+}
+
 TEST_F(LocalNodesTest, ElementsAreAskedForOnceAndOnlyWhenANodeMoved) {
   AddSystem(5, rectangularSystem, noTurn, {0.0, 0.0, 0.0});
   EXPECT_THAT(OperationsOfApply(), IsEmpty());

@@ -40,6 +40,11 @@ TEST(NormaliseIfFinite, TakesASquaredLengthFromTheSmallestNormalNumberOn) {
 
 TEST(NormaliseIfFinite, TakesASquaredLengthUpToTheLargestNumber) {
   EXPECT_EQ(NormaliseIfFinite({0.0, 0.0, 0x1p511}), (Vector{0.0, 0.0, 1.0}));
+  // The squares add up to the largest number itself.
+  constexpr double longest = 0x1.fffffffffffffp+511;
+  constexpr double rest = 0x1.6a09e667f3bcdp+485;
+  ASSERT_EQ(longest * longest + rest * rest, std::numeric_limits<double>::max());
+  EXPECT_EQ(NormaliseIfFinite({longest, rest, 0.0}), (Vector{1.0, rest / longest, 0.0}));
   EXPECT_EQ(NormaliseIfFinite({0.0, 0.0, 0x1p512}), (Vector{0.0, 0.0, 0x1p512}));
   EXPECT_EQ(NormaliseIfFinite({infinity, 0.0, 1.0}), (Vector{infinity, 0.0, 1.0}));
 }

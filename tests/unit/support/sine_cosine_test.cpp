@@ -131,6 +131,22 @@ constexpr Known anyAngles[] = {
     {-0x1.1f164240493a3p+10, 0x1.fda8835c9e021p-1, 0x1.874d732ce92f0p-4},
 };
 
+/// The hardest to round of some three million: sine or cosine lies within a millionth of the last place of the middle between two doubles.
+constexpr Known hardToRound[] = {
+    {0x1.561305b3a95e3p+4, 0x1.25f06d8469db9p-1, -0x1.a337d15cca122p-1},
+    {0x1.07bc5c651f146p-6, 0x1.07b971f67b655p-6, 0x1.ffef04cf00f42p-1},
+    {0x1.583074bf77571p-4, 0x1.57c8cc0377c72p-4, 0x1.fe31836e58b7cp-1},
+    {-0x1.5846e64c8208ep+1, -0x1.bf2eb83852eb7p-2, -0x1.cc99358599bebp-1},
+    {-0x1.f1ae3528b6da8p+14, -0x1.bda442359efb9p-1, -0x1.f82c37616fd70p-2},
+    {0x1.e9f5d3171edcdp+13, 0x1.a3ade1ff889e5p-1, -0x1.2547c2d5783afp-1},
+    {-0x1.0ec92cb410112p+18, -0x1.fc203094773fdp-1, 0x1.f6ef264eedaa8p-4},
+    {0x1.5bb9728a9d63bp-3, 0x1.5a0e5e4ad6c4dp-3, 0x1.f8a347b6ff370p-1},
+    {0x1.436340bd774abp+24, 0x1.7d76ff39357aap-1, 0x1.55825f91bae93p-1},
+    {0x1.d9a5c8b4e9334p-2, 0x1.c8f01beae9f1bp-2, 0x1.ca32d5b9fe3bcp-1},
+    {0x1.e402c5dca9d0ap+3, 0x1.19b61e409d5a0p-1, -0x1.ab87ea608d19dp-1},
+    {-0x1.1050f728d0754p+2, 0x1.cb5b8d95a65d2p-1, -0x1.c44252f8d7252p-2},
+};
+
 /// Beyond 2^30: the angle is taken modulo the double nearest to two pi.
 constexpr Known hugeAngles[] = {
     {0x1.0000000000001p+30, -0x1.3c122dd120c49p-1, 0x1.92cb4c775d67bp-1},
@@ -159,6 +175,8 @@ TEST(SineCosine, AnglesNextToTheAxesKeepAllDigits) { ExpectExactly(nearTheAxes);
 TEST(SineCosine, TheBoundsOfTheComputationAreCorrectlyRounded) { ExpectExactly(bounds); }
 
 TEST(SineCosine, AnyAngleIsCorrectlyRounded) { ExpectExactly(anyAngles); }
+
+TEST(SineCosine, ValuesNextToTheMiddleOfTwoDoublesAreCorrectlyRounded) { ExpectExactly(hardToRound); }
 
 TEST(SineCosine, HugeAnglesAreTakenModuloTwoPi) { ExpectExactly(hugeAngles); }
 
