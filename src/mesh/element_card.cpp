@@ -6,6 +6,14 @@
 
 namespace btz {
 
+void ReadElementHead(MeshModel* model, CardCursor* cursor, std::int32_t width, ElementCard* card) {
+  Advance(cursor, 8);
+  ReadIdField(width, cursor, &card->id, false);
+  std::int32_t pid = 0;
+  ReadIdField(width, cursor, &pid, false);
+  card->partId = ResolvePartId(model, pid);
+}
+
 std::int32_t CreateElementInPart(MeshModel* model, const ElementCard& card, PartKind kind, std::int32_t solidFlag, std::uint8_t shellFlag,
                                  const char* word, const char* logPath) {
   EnsurePart(model, card.partId, kind);

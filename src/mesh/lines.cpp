@@ -26,13 +26,9 @@ void StoreInProperties(const IndexedList* beamPropertyList, std::int32_t partId,
 
 std::int32_t ReadBarCard(MeshModel* model, CardCursor* cursor, const char* logPath, const IndexedList* beamPropertyList) {
   const std::int32_t width = FieldWidthFor(*cursor, "CBAR*");
-  Advance(cursor, 8);
   ElementCard card;
   card.type = elementLine2;
-  ReadIdField(width, cursor, &card.id, false);
-  std::int32_t pid = 0;
-  ReadIdField(width, cursor, &pid, false);
-  card.partId = ResolvePartId(model, pid);
+  ReadElementHead(model, cursor, width, &card);
   ReadIntField(width, cursor, &card.nodes[0]);
   ReadIntField(width, cursor, &card.nodes[1]);
   // Required: a blank field takes no value's place, so pin flags close up behind a blank OFFT and move forward behind a blank X; a node id in
@@ -47,13 +43,9 @@ std::int32_t ReadBarCard(MeshModel* model, CardCursor* cursor, const char* logPa
 
 std::int32_t ReadBeamCard(MeshModel* model, CardCursor* cursor, const char* logPath) {
   const std::int32_t width = FieldWidthFor(*cursor, "CBEAM*");
-  Advance(cursor, 8);
   ElementCard card;
   card.type = elementLine2;
-  ReadIdField(width, cursor, &card.id, false);
-  std::int32_t pid = 0;
-  ReadIdField(width, cursor, &pid, false);
-  card.partId = ResolvePartId(model, pid);
+  ReadElementHead(model, cursor, width, &card);
   ReadIdField(width, cursor, &card.nodes[0], false);
   ReadIdField(width, cursor, &card.nodes[1], false);
   return CreateElementInPart(model, card, partOfLines, 0, 0, "Beam", logPath);

@@ -24,19 +24,10 @@ struct SolidForm {
 constexpr SolidForm wedge{"CPENTA*", elementWedge6, elementWedge15, 0, "Wedge"};
 constexpr SolidForm hexa{"CHEXA*", elementHexa8, elementHexa20, 1, "Hex"};
 
-/// Takes the keyword, the element id and the property id, which give the card's part.
-void ReadSolidHead(MeshModel* model, CardCursor* cursor, std::int32_t width, ElementCard* card) {
-  Advance(cursor, 8);
-  ReadIdField(width, cursor, &card->id, false);
-  std::int32_t pid = 0;
-  ReadIdField(width, cursor, &pid, false);
-  card->partId = ResolvePartId(model, pid);
-}
-
 std::int32_t ReadSolidCard(MeshModel* model, CardCursor* cursor, const char* logPath, const SolidForm& form) {
   const std::int32_t width = FieldWidthFor(*cursor, form.largeKeyword);
   ElementCard card;
-  ReadSolidHead(model, cursor, width, &card);
+  ReadElementHead(model, cursor, width, &card);
   const std::int32_t count = WalkIntegers(cursor, width, card.nodes, TopologyOf(ElementNodeCount, form.midSideType));
   card.type = count > TopologyOf(ElementCornerCount, form.midSideType) ? form.midSideType : form.cornerType;
   return CreateElementInPart(model, card, partOfSolids, form.solidFlag, 0, form.logWord, logPath);
@@ -70,7 +61,7 @@ void ReadFreePyramid(const char* line, ElementCard* card) {
 std::int32_t ReadTetraCard(MeshModel* model, CardCursor* cursor, const char* logPath) {
   const std::int32_t width = FieldWidthFor(*cursor, "CTETRA*");
   ElementCard card;
-  ReadSolidHead(model, cursor, width, &card);
+  ReadElementHead(model, cursor, width, &card);
   std::int32_t byPosition[10] = {};
   std::int32_t position = 0;
   const auto readNode = [&](std::int32_t slot) {
@@ -119,7 +110,7 @@ std::int32_t ReadPyramidCard(MeshModel* model, DeckBuffer* buffer, const char* l
   } else {
     const bool large = BeginsWithKeyword(*cursor, "CPYRA*") || BeginsWithKeyword(*cursor, "CPYRAM*");
     const std::int32_t width = large ? 16 : 8;
-    ReadSolidHead(model, cursor, width, &card);
+    ReadElementHead(model, cursor, width, &card);
     WalkIntegers(cursor, width, card.nodes, 5);
   }
   return CreateElementInPart(model, card, partOfSolids, 1, 0, "Pyramid", logPath);
