@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::int32_t propertyCount = 10;
 
-void WriteNode(std::FILE* deck, std::int32_t id, double x, double y, double z) {
-  std::fprintf(deck, "GRID    %8d        %8.3f%8.4f%8.4f\n", static_cast<int>(id), x, y, z);
-}
-
 void WritePanel(std::FILE* deck, std::int32_t side) {
   std::fputs("$ Curved panel for measurements\nSOL 101\nCEND\nBEGIN BULK\n", deck);
   const std::int32_t row = side + 1;
@@ -35,14 +31,23 @@ void WritePanel(std::FILE* deck, std::int32_t side) {
 
 }  // namespace
 
-BenchDeck::BenchDeck(std::int32_t cells) {
-  path = (std::filesystem::temp_directory_path() / ("btz_bench_" + std::to_string(cells) + ".bdf")).string();
+void WriteNode(std::FILE* deck, std::int32_t id, double x, double y, double z) {
+  std::fprintf(deck, "GRID    %8d        %8.3f%8.4f%8.4f\n", static_cast<int>(id), x, y, z);
+}
+
+BenchDeck::BenchDeck(std::int32_t cells)
+    : BenchDeck(std::to_string(cells), [cells](std::FILE* deck) {
+        WritePanel(deck, static_cast<std::int32_t>(std::lround(std::sqrt(static_cast<double>(cells)))));
+      }) {}
+
+BenchDeck::BenchDeck(const std::string& name, const std::function<void(std::FILE* deck)>& write) {
+  path = (std::filesystem::temp_directory_path() / ("btz_bench_" + name + ".bdf")).string();
   std::FILE* deck = std::fopen(path.c_str(), "wb");
   if (deck == nullptr) {
     std::perror(path.c_str());
     std::exit(1);
   }
-  WritePanel(deck, static_cast<std::int32_t>(std::lround(std::sqrt(static_cast<double>(cells)))));
+  write(deck);
   std::fclose(deck);
   bytes = static_cast<std::int64_t>(std::filesystem::file_size(path));
 }

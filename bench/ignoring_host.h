@@ -7,7 +7,7 @@
 namespace btz {
 
 /// Stands for every part and every face.
-class IgnoringPart final : public TopoFace {
+class IgnoringPart : public TopoFace {
  public:
   std::int32_t GetTopoKind() override { return topoFace; }
   std::int32_t GetId() override { return 1; }
@@ -39,7 +39,7 @@ class IgnoringPart final : public TopoFace {
 };
 
 /// Counts nodes and elements.
-class IgnoringModel final : public MeshModel {
+class IgnoringModel : public MeshModel {
  public:
   std::int64_t nodes = 0;
   std::int64_t elements = 0;
@@ -98,7 +98,7 @@ class IgnoringModel final : public MeshModel {
   IgnoringPart part;
 };
 
-class IgnoringProject final : public HostProject {
+class IgnoringProject : public HostProject {
  public:
   IgnoringModel model;
 
@@ -138,7 +138,7 @@ class IgnoringBoundaryStore final : public BoundaryStore {
   std::int32_t GetNextGapGroupId() override { return 0; }
 };
 
-class IgnoringMaterialStore final : public MaterialStore {
+class IgnoringMaterialStore : public MaterialStore {
  public:
   std::int32_t CreateMaterial(Material** /*out*/, std::int32_t /*id*/) override { return 0; }
   void GetMaterial(std::int32_t /*id*/, Material** /*out*/, std::int32_t* /*index*/) override {}

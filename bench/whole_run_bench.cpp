@@ -11,24 +11,13 @@
 
 #include "bench/deck_writer.h"
 #include "bench/ignoring_host.h"
+#include "bench/quiet_platform.h"
 #include "driver/translate_deck.h"
 #include "memory_host/memory_host.h"
-#include "platform/platform.h"
 
 namespace btz::bench {
 
 namespace {
-
-/// The real platform without console output and without a log.
-class QuietPlatform final : public Platform {
- public:
-  std::FILE* OpenFile(const char* path, const char* mode) override { return SystemPlatform().OpenFile(path, mode); }
-  void OpenProgressWord(const char* /*name*/) override {}
-  void StoreProgress(std::int32_t /*percent*/) override {}
-  void PrintConsole(const char* /*text*/) override {}
-  LocalTime Now() override { return {}; }
-  bool ReadEnvironment(const char* /*name*/, char* /*dest*/, std::size_t /*capacity*/) override { return false; }
-};
 
 /// Runs on the ignoring host; returns the number of elements that reached it.
 std::int64_t RunIgnoring(const std::string& deckPath) {
