@@ -31,7 +31,8 @@ struct BeamTransfer {
   FindOrientation findOrientation;
 };
 
-/// The texts of a library section. Every section is handed over as a round one, hollow when it has a second dimension, whatever its word was.
+/// The texts of a library section. Required: every section is handed over as a round one, hollow when it has a second dimension, whatever its
+/// word was; one of an unknown word has the dimension zero.
 struct SectionTexts {
   char name[16];
   char dimensions[2 * decimalTextCapacity];
@@ -87,7 +88,8 @@ void AddNumbers(NamedValues& values, const BeamPropertyRecord& record, std::int3
   values.AddInteger("PB", record.pinFlagsB);
 }
 
-/// Values of a library card: nothing of its own numbers, orientation and pin flags is among them.
+/// Values of a library card. Required: nothing of its own numbers, orientation and pin flags is among them, its mass included; the host works
+/// all of them out.
 void AddLibrarySection(NamedValues& values, const BeamPropertyRecord& record, MaterialStore* store, SectionTexts* texts) {
   if (record.isBeam == 0) {
     values.AddText("SectionType", texts->name, texts->nameLength);
