@@ -17,8 +17,8 @@
 namespace btz {
 namespace {
 
-using test::CardText;
 using test::Large;
+using test::PropertyCardText;
 using test::Small;
 
 /// A card read by its rules, into a text that tells all of it.
@@ -291,7 +291,7 @@ class CapturedCards : public test::NameTablesTest {
  private:
   template <typename Record>
   void ExpectShown(const std::string& content, void (*reader)(CardCursor*, IndexedList*), const std::string& expected) {
-    CardText text("", content);
+    PropertyCardText text("", content);
     IndexedList list;
     IndexedListInit(&list);
     reader(&text.cursor, &list);
@@ -390,7 +390,7 @@ TEST_F(CapturedCards, WithAnyByteChanged) {
 TEST_F(CapturedCards, WithANulAnywhere) {
   for (const std::string& sample : Samples()) {
     for (std::size_t place = 0; place < sample.size(); ++place) {
-      CardText text("$Name\n", sample.substr(0, place) + '\0' + sample.substr(place + 1));
+      PropertyCardText text("$Name\n", sample.substr(0, place) + '\0' + sample.substr(place + 1));
       IndexedList list;
       IndexedListInit(&list);
       ReadBeamPropertyCard(&text.cursor, &list);

@@ -14,9 +14,9 @@
 namespace btz::test {
 
 /// The text around one card.
-class CardText {
+class PropertyCardText {
  public:
-  CardText(std::string_view above, std::string_view card) {
+  PropertyCardText(std::string_view above, std::string_view card) {
     memory = std::string(8, '\0');
     memory += above;
     start = memory.size();
@@ -27,8 +27,8 @@ class CardText {
     cursor = memory.data() + start;
   }
 
-  CardText(const CardText&) = delete;
-  CardText& operator=(const CardText&) = delete;
+  PropertyCardText(const PropertyCardText&) = delete;
+  PropertyCardText& operator=(const PropertyCardText&) = delete;
 
   /// Where the cursor stands, counted from the start of the card.
   std::size_t Place() const { return static_cast<std::size_t>(cursor - memory.data()) - start; }
@@ -60,7 +60,7 @@ class PropertyCardTest : public NameTablesTest {
 
   /// The record of the first card of `card`, with the lines of `above` over it.
   const Record& Read(std::string_view card, std::string_view above = "") {
-    CardText text(above, card);
+    PropertyCardText text(above, card);
     const std::int32_t size = list.size;
     reader(&text.cursor, &list);
     EXPECT_EQ(list.size, size + 1) << card;
