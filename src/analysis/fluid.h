@@ -5,6 +5,20 @@
 
 namespace btz {
 
-inline HashTable FluidTable;  ///< Fluid data by id.
+/// A fluid volume and its surfaces. Heap block, held by FluidTable.
+struct FluidRecord {
+  std::int32_t setId;
+  std::int32_t csId;
+  double freeSurface;
+  double density;
+  std::int32_t oneSideList;  ///< Surface that is wetted on one side.
+  std::int32_t twoSideList;  ///< Surface that is wetted on both sides.
+  double ratio;              ///< RMAX.
+  char firstPlane[8];        ///< "S", "A" or another text.
+  char secondPlane[8];
+  std::uint8_t reversed;  ///< 1 when a surface list of it named a negative element id.
+};
+
+inline HashTable FluidTable;  ///< FluidRecord by set id.
 
 }  // namespace btz

@@ -5,6 +5,8 @@
 #include "analysis/case_control.h"
 #include "deck/fields.h"
 #include "deck/name_comments.h"
+#include "loads/body_loads.h"
+#include "loads/constraints.h"
 #include "materials/material_transfer.h"
 #include "mesh/coordinate_systems.h"
 #include "mesh/lines.h"
@@ -64,6 +66,18 @@ std::int32_t Cord1Card(CardContext& context, SystemKind kind) {
   return 0;
 }
 
+std::int32_t LoadCombinationCard(CardContext& context, SubcaseId kind) {
+  RunState& run = context.run;
+  ReadLoadCombinationCard(&context.file.cursor, &run.lists.subcases, &run.subcaseIndex, kind);
+  return 0;
+}
+
+std::int32_t ConstraintCombinationCard(CardContext& context, SubcaseId kind) {
+  RunState& run = context.run;
+  ReadConstraintCombinationCard(&context.file.cursor, &run.lists.subcases, &run.subcaseIndex, kind);
+  return 0;
+}
+
 }  // namespace
 
 std::int32_t GridCard(CardContext& context) {
@@ -118,6 +132,16 @@ std::int32_t MethodLine(CardContext& context) {
   return 0;
 }
 
+std::int32_t SubcaseLines(CardContext& context) {
+  context.run.hasSeenSubcase = true;
+  return IncludedSubcaseLines(context);
+}
+
+std::int32_t IncludedSubcaseLines(CardContext& context) {
+  ReadSubcases(&context.file.cursor, &context.run.lists.subcases);
+  return 0;
+}
+
 std::int32_t Tria3Card(CardContext& context) { return ReadTria3Card(context.run.model, &context.file.cursor, context.run.logPath); }
 
 std::int32_t Tria6Card(CardContext& context) { return ReadTria6Card(context.run.model, &context.file.cursor, context.run.logPath); }
@@ -157,6 +181,14 @@ std::int32_t Cord1RectangularCard(CardContext& context) { return Cord1Card(conte
 
 std::int32_t Cord1CylindricalCard(CardContext& context) { return Cord1Card(context, cylindricalSystem); }
 
+std::int32_t LoadCard(CardContext& context) { return LoadCombinationCard(context, SubcaseId::Load); }
+
+std::int32_t DloadCard(CardContext& context) { return LoadCombinationCard(context, SubcaseId::Dload); }
+
+std::int32_t SpcaddCard(CardContext& context) { return ConstraintCombinationCard(context, SubcaseId::Spc); }
+
+std::int32_t MpcaddCard(CardContext& context) { return ConstraintCombinationCard(context, SubcaseId::Mpc); }
+
 std::int32_t AnsaNameComment(CardContext& context) {
   ReadAnsaNameComment(&context.file.cursor);
   return 0;
@@ -169,6 +201,42 @@ std::int32_t HmNameComment(CardContext& context) {
 
 std::int32_t HmSetComment(CardContext& context) {
   ReadHmSetComment(&context.file.cursor);
+  return 0;
+}
+
+std::int32_t SpcCard(CardContext& context) {
+  ReadSpcCard(&context.file.cursor, &context.run.lists.spc);
+  return 0;
+}
+
+std::int32_t Spc1Card(CardContext& context) {
+  ReadSpc1Card(context.run.model, &context.file.cursor, &context.run.lists.spc1);
+  return 0;
+}
+
+std::int32_t ForceCard(CardContext& context) {
+  RunState& run = context.run;
+  char name[nameCapacity];
+  ReadCommentAboveCard(context.file.cursor, name);
+  ReadForceCard(&context.file.cursor, run.model, run.forceReference, name, run.counters[familyForce]);
+  return 0;
+}
+
+std::int32_t MomentCard(CardContext& context) {
+  RunState& run = context.run;
+  char name[nameCapacity];
+  ReadCommentAboveCard(context.file.cursor, name);
+  ReadMomentCard(&context.file.cursor, run.model, run.momentReference, name, run.counters[familyMoment]);
+  return 0;
+}
+
+std::int32_t GravCard(CardContext& context) {
+  ReadGravCard(&context.file.cursor, context.run.host.boundary, context.run.model);
+  return 0;
+}
+
+std::int32_t RforceCard(CardContext& context) {
+  ReadRforceCard(&context.file.cursor, context.run.host.boundary, context.run.model);
   return 0;
 }
 

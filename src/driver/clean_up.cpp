@@ -50,7 +50,6 @@ struct ListRecords {
 // In the order of the clean-up.
 constexpr TableRecords tablesBeforeParts[] = {
     {&TemperatureSetTable, ReleaseMemory},
-    {&NodeEnforcedValueTable, ReleaseMemory},
     {&ConvectionPropertyTable, ReleaseMemory},
     {&ThermalMaterialTable, ReleaseMemory},
     {&ConvectionSetTable, ReleaseMemory},
@@ -66,7 +65,6 @@ constexpr TableRecords tablesBeforeParts[] = {
 };
 
 constexpr TableRecords tablesOfLoads[] = {
-    {&ForceSetTable, ReleaseMemory},
     {&PressureSetTable, ReleaseMemory},
     {&RbarTable, ReleaseMemory},
 };
@@ -77,17 +75,11 @@ constexpr TableRecords nameTables[] = {
 };
 
 constexpr TableRecords tablesOfAnalysis[] = {
-    {&BushInstanceTable, ReleaseMemory},
-    {&SpringPropertyValueTable, ReleaseMemory},
-    {&GasketMidNodeTable, ReleaseMemory},
-    {&LoadCombinationTable, ReleaseMemory},
-    {&RloadTable, ReleaseMemory},
-    {&DareaTable, ReleaseMemory},
-    {&PretensionAdjustTable, ReleaseMemory},
-    {&PretensionTable, ReleaseMemory},
-    {&FluidTable, ReleaseMemory},
+    {&BushInstanceTable, ReleaseMemory},  {&SpringPropertyValueTable, ReleaseMemory},
+    {&GasketMidNodeTable, ReleaseMemory}, {&RloadTable, ReleaseMemory},
+    {&DareaTable, ReleaseMemory},         {&PretensionAdjustTable, ReleaseMemory},
+    {&PretensionTable, ReleaseMemory},    {&FluidTable, ReleaseMemory},
     {&EigrTable, ReleaseMemory},
-    {&LoadSetTable, ReleaseMemory},
 };
 
 void FreeTable(const TableRecords& records) {
@@ -116,16 +108,26 @@ void DestroyTable(const TableRecords& records) {
   HashDestroy(records.table);
 }
 
-void FreeCardLists(RunState* run) {
-  RunLists& lists = run->lists;
-  for (PooledList* list : {&lists.rigidElements, &lists.mpc, &lists.spc, &lists.spc1}) {
-    FreeList({list, ReleaseMemory});
-  }
+void FreeIndexedList(IndexedList* list, FreeRecordFunction freeRecord) {
+  WalkIndexedList<void>(list, freeRecord);
+  IndexedListClear(list);
 }
 
-void FreeIndexedList(IndexedList* list) {
-  WalkIndexedList<void>(list, ReleaseMemory);
-  IndexedListClear(list);
+void FreeCardLists(RunState* run) {
+  RunLists& lists = run->lists;
+  for (PooledList* list : {&lists.rigidElements, &lists.mpc}) {
+    FreeList({list, ReleaseMemory});
+  }
+  FreeIndexedList(&lists.spc, ReleaseMemory);
+  FreeIndexedList(&lists.spc1, FreeSpc1Record);
+}
+
+/// Indexed tables of the process.
+void FreeIndexedTables() {
+  for (IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable}) {
+    FreeIndexedList(table, ReleaseMemory);
+  }
+  FreeIndexedList(&LoadSetTable, FreeLoadSetRecord);
 }
 
 void FreePropertyLists(RunState* run) {
@@ -134,7 +136,7 @@ void FreePropertyLists(RunState* run) {
     FreeList({list, ReleaseMemory});
   }
   for (IndexedList* list : {&lists.pshell, &lists.materials, &lists.psolid, &lists.beamProperties, &lists.pgask}) {
-    FreeIndexedList(list);
+    FreeIndexedList(list, ReleaseMemory);
   }
 }
 
@@ -152,7 +154,9 @@ void FreeRecords(RunState* run) {
   HashDestroy(&run->gridCdTable);
   HashClear(&GapGroupTable);
   FreeTables(tablesOfAnalysis);
-  FreeList({&run->lists.subcases, ReleaseMemory});
+  FreeIndexedTables();
+  SubcaseIndexClear(&run->subcaseIndex);
+  FreeList({&run->lists.subcases, FreeSubcaseRecord});
   FreeList({&TransitionElementList, ReleaseMemory});
   FreeList({&AsetList, ReleaseMemory});
   FreeList({&PretensionBoltList, ReleaseMemory});
@@ -180,6 +184,7 @@ void FreeProcessRecords() {
   FreeTables(tablesOfLoads);
   FreeTables(nameTables);
   FreeTables(tablesOfAnalysis);
+  FreeIndexedTables();
   FreeTable({&SolidPartCounts, ReleaseMemory});
   FreeList({&TransitionElementList, ReleaseMemory});
   FreeList({&AsetList, ReleaseMemory});

@@ -1,9 +1,13 @@
 #include "driver/finishing_stages.h"
 
+#include "analysis/load_cases.h"
+#include "analysis/node_systems.h"
 #include "deck/name_comments.h"
 #include "driver/clean_up.h"
 #include "driver/part_stages.h"
 #include "driver/split_faces.h"
+#include "loads/constraint_stages.h"
+#include "loads/force_loads.h"
 #include "loads/pressures.h"
 #include "materials/material_transfer.h"
 #include "mesh/gaps.h"
@@ -78,6 +82,22 @@ void UniquePartNames(RunState& /*run*/) { MakePartNamesUnique(); }
 
 void CommitMaterials(RunState& run) { run.host.materials->Commit(); }
 
+void MakeForces(RunState& run) { CreateForceLoads(run.host.boundary, run.host.curves, &run.names.pointForce); }
+
+void MakeSpcConstraints(RunState& run) {
+  CreateSpcConstraints(run.model, run.host.boundary, &run.lists.spc, &run.gridCdTable, run.host.curves);
+}
+
+void MakeSpc1Constraints(RunState& run) { CreateSpc1Constraints(run.host.boundary, &run.lists.spc1, &run.gridCdTable); }
+
+void AssignDisplacementSystems(RunState& run) {
+  CreateNodeCoordinateAssignments(run.model, run.host.boundary, &run.gridCdTable, &run.lists.coordinateSystems);
+}
+
+void MakeLoadCases(RunState& run) {
+  AssembleLoadCases({run.options.targetSolver, &run.lists.subcases, run.host.boundary, run.host.curves, AddBoltsToCase});
+}
+
 void HandOver(RunState& run) {
   run.model->Finish();
   run.host.project->AttachModel(run.model, 1);
@@ -112,23 +132,23 @@ constexpr FinishingStage stagesBehindElements[] = {
 
 constexpr FinishingStage stagesBehindLoads[] = {
     {"pressures", HasPressures, "Creating Pressure....\n", StageNotBuilt},
-    {"forces and moments", HasForces, "Creating Force/Moment....\n", StageNotBuilt},
+    {"forces and moments", HasForces, "Creating Force/Moment....\n", MakeForces},
     {"masses", HasMasses, nullptr, StageNotBuilt},
     {"bushes", HasBushes, nullptr, StageNotBuilt},
     {"springs", HasSprings, nullptr, StageNotBuilt},
     {"gaps", HasGaps, nullptr, StageNotBuilt},
-    {"single-point constraints", Always, nullptr, StageNotBuilt},
-    {"single-point constraints of node lists", Always, nullptr, StageNotBuilt},
+    {"single-point constraints", Always, nullptr, MakeSpcConstraints},
+    {"single-point constraints of node lists", Always, nullptr, MakeSpc1Constraints},
     {"multi-point constraints", Always, nullptr, StageNotBuilt},
     {"convection", IsTargetNastran, nullptr, StageNotBuilt},
     {"flux", IsTargetNastran, nullptr, StageNotBuilt},
     {"temperatures", Always, nullptr, StageNotBuilt},
     {"rigid bars", HasRigidBars, nullptr, StageNotBuilt},
     {"analysis node sets", HasAnalysisNodeSets, "Creating Nastarn Aset....\n", StageNotBuilt},
-    {"displacement systems", HasDisplacementSystems, nullptr, StageNotBuilt},
+    {"displacement systems", HasDisplacementSystems, nullptr, AssignDisplacementSystems},
     {"excitations", Always, nullptr, StageNotBuilt},
     {"pretension", HasPretension, nullptr, StageNotBuilt},
-    {"load cases and global damping", Always, nullptr, StageNotBuilt},
+    {"load cases and global damping", Always, nullptr, MakeLoadCases},
     {"bolts released", Always, nullptr, StageNotBuilt},
     {"model handed over", Always, nullptr, HandOver},
     {"log of the topology", Always, "Updating Topology....\n", [](RunState&) {}},

@@ -4,9 +4,11 @@
 
 #include <btz/containers.h>
 
+#include "analysis/set_combination.h"
 #include "deck/deck_buffer.h"
 #include "driver/progress.h"
 #include "host/host_interfaces.h"
+#include "loads/forces.h"
 #include "support/indexed_list.h"
 
 namespace btz {
@@ -79,15 +81,15 @@ struct RunLists {
   PooledList mpc;
   PooledList coordinateSystems;  ///< CsRecord.
   PooledList gridCp;             ///< GridCpRecord.
-  PooledList spc1;
-  IndexedList materials;  ///< MaterialLink by deck id.
-  PooledList spc;
+  IndexedList spc1;              ///< Spc1Record by set and components, the newest first.
+  IndexedList materials;         ///< MaterialLink by deck id.
+  IndexedList spc;               ///< SpcRecord by node and set, the newest first.
   PooledList tempd;
   PooledList pelas;
   PooledList pgap;
   IndexedList pgask;        ///< PgaskRecord by property id.
   PooledList hostEntities;  ///< Entity, gaps that the host has already.
-  PooledList subcases;
+  PooledList subcases;      ///< SubcaseRecord, in the order of the deck.
 };
 
 struct RunState {
@@ -104,6 +106,9 @@ struct RunState {
   std::int32_t includesScanned = 0;  ///< Include lines that the pre-scan counted.
   std::int32_t counters[familyCount] = {};
   NameCounters names;
+  LoadVector forceReference = {};   ///< What FORCE cards are compared with.
+  LoadVector momentReference = {};  ///< What MOMENT cards are compared with.
+  SubcaseIndex subcaseIndex;        ///< For the combination cards.
   bool hasSeenSubcase = false;
   char setName[256] = "";  ///< Name of the current set or surface.
   ListCellPool listPool;   ///< Cells of the run's lists.

@@ -4,7 +4,6 @@
 
 #include "analysis/fluid.h"
 #include "analysis/frequency_response.h"
-#include "analysis/set_combination.h"
 #include "deck/name_comments.h"
 #include "driver/clean_up.h"
 #include "loads/constraints.h"
@@ -17,6 +16,7 @@
 #include "mesh/gaps.h"
 #include "mesh/gaskets.h"
 #include "mesh/masses.h"
+#include "mesh/nodes.h"
 #include "mesh/parts.h"
 #include "mesh/rigid_elements.h"
 #include "mesh/shells.h"
@@ -54,12 +54,10 @@ constexpr TableSetUp processTables[] = {
     {&ConvectionSetTable, 1000, HashFirstInt, nullptr},
     {&ThermalMaterialTable, 1000, HashFirstInt, nullptr},
     {&ConvectionPropertyTable, 1000, HashFirstInt, nullptr},
-    {&NodeEnforcedValueTable, 1000, HashFirstInt, nullptr},
     {&SurfaceElementTable, 1000, HashFirstInt, nullptr},
     {&FluxTable, 1000, HashSecondInt, nullptr},
     {&TemperatureSetTable, 1000, HashFirstInt, nullptr},
     {&PressureSetTable, 1000, HashFirstInt, nullptr},
-    {&ForceSetTable, 1000, HashFirstInt, nullptr},
     {&RbarTable, 1000, HashFirstInt, nullptr},
     {&PropertyNameTable, 1000, HashFirstInt, nullptr},
     {&SpringPairTable, 1000, HashNodePairMin, CompareNodePair},
@@ -69,8 +67,6 @@ constexpr TableSetUp processTables[] = {
     {&ElementSetNameTable, 1000, HashFirstInt, nullptr},
     {&SurfaceNameTable, 1000, HashFirstInt, nullptr},
     {&GapGroupTable, 100, HashFirstInt, nullptr},
-    {&LoadCombinationTable, 500, HashFirstInt, nullptr},
-    {&LoadSetTable, 1000, HashFirstInt, CompareSecondInt},
     {&RloadTable, 1000, HashFirstInt, nullptr},
     {&DareaTable, 1000, HashFirstInt, nullptr},
     {&FluidTable, 1000, HashFirstInt, nullptr},
@@ -81,19 +77,23 @@ constexpr TableSetUp processTables[] = {
     {&PropertyCommentTable, 1000, HashFirstInt, nullptr},
 };
 
+// Tables in which a deck can have millions of records, or millions under one key.
+IndexedList* const processIndexedLists[] = {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable, &LoadSetTable};
+
 PooledList* const processLists[] = {&PartList, &LoadPartList, &AsetList, &TransitionElementList, &PretensionBoltList};
 
 constexpr std::int32_t gridCdTableSize = 50000;
 
 void SetUpLists(RunState* run) {
   RunLists& lists = run->lists;
-  for (PooledList* list : {&lists.faceScratch, &lists.rigidElements, &lists.mpc, &lists.coordinateSystems, &lists.gridCp, &lists.spc1,
-                           &lists.spc, &lists.tempd, &lists.pelas, &lists.pgap, &lists.hostEntities, &lists.subcases}) {
+  for (PooledList* list : {&lists.faceScratch, &lists.rigidElements, &lists.mpc, &lists.coordinateSystems, &lists.gridCp, &lists.tempd,
+                           &lists.pelas, &lists.pgap, &lists.hostEntities, &lists.subcases}) {
     ListInit(list, &run->listPool);
   }
-  for (IndexedList* list : {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask}) {
+  for (IndexedList* list : {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask, &lists.spc, &lists.spc1}) {
     IndexedListInit(list);
   }
+  SubcaseIndexInit(&run->subcaseIndex);
 }
 
 /// Four buckets for each element counted, kept within what a table can have.
@@ -108,6 +108,9 @@ void ReleaseProcessTables() {
   }
   HashRelease(&GasketMidNodeTable);
   HashRelease(&SolidPartCounts);
+  for (IndexedList* list : processIndexedLists) {
+    IndexedListClear(list);
+  }
   ListCellPoolReset(&ListPool);
 }
 
@@ -130,12 +133,16 @@ void SetUpTables(RunState* run) {
   for (const TableSetUp& setUp : processTables) {
     HashCreate(setUp.table, setUp.size, setUp.hash, setUp.compare, nullptr, 0);
   }
+  for (IndexedList* list : processIndexedLists) {
+    IndexedListClear(list);
+  }
   HashDestroy(&GasketMidNodeTable);
   GasketMidNodeTableSize = GasketTableSize(run->elementsScanned);
   for (PooledList* list : {&PartList, &AsetList, &TransitionElementList, &PretensionBoltList}) {
     ListClear(list);
   }
   DefaultPartId = 0;
+  HighestNodeId = 0;
 }
 
 void InitProcessState() {
@@ -144,10 +151,14 @@ void InitProcessState() {
   }
   HashInit(&GasketMidNodeTable);
   HashInit(&SolidPartCounts);
+  for (IndexedList* list : processIndexedLists) {
+    IndexedListInit(list);
+  }
   for (PooledList* list : processLists) {
     ListInit(list, &ListPool);
   }
   DefaultPartId = 0;
+  HighestNodeId = 0;
 }
 
 void ResetProcessState() {

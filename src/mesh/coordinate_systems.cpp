@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "deck/card_boundaries.h"
+#include "mesh/nodes.h"
 #include "support/block_pool.h"
 #include "support/pooled_list.h"
 
@@ -37,6 +38,7 @@ MeshNode* FindNode(MeshModel* model, std::int32_t id) {
 MeshNode* MakeHelperNode(MeshModel* model, const double* point) {
   const std::int32_t id = model->NextNodeId();
   model->CreateNode(id, point, 0);
+  NoteNodeId(id);
   return FindNode(model, id);
 }
 

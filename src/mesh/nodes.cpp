@@ -141,6 +141,7 @@ void ReadGridCard(MeshModel* model, CardCursor* cursor, PooledList* gridCpList, 
     NotePositionSystem(card, gridCpList);
   }
   const std::int32_t refused = model->CreateNode(card.id, card.position, 0);
+  NoteNodeId(card.id);
   at += std::strcspn(at, "\n");
   if (*at == '\n') {
     ++at;

@@ -25,6 +25,11 @@ struct GridCdRecord {
   std::uint8_t used;  ///< Set once an entity acts in the system at this node.
 };
 
+/// Highest id of the nodes that the run has made from cards; 0 when there is none.
+inline std::int32_t HighestNodeId = 0;
+
+inline void NoteNodeId(std::int32_t id) { HighestNodeId = id > HighestNodeId ? id : HighestNodeId; }
+
 /// Reads the `GRID` card at the cursor and creates its node. Small fields, large fields and free format; the cursor ends behind the card's
 /// line (behind its second one in large fields). A node that the host refuses costs a line in the log where that form's result is kept: in
 /// small fields, and in the other forms for a node in a local system.

@@ -53,12 +53,10 @@ const ExpectedTable processTables[] = {
     {"ConvectionSetTable", &ConvectionSetTable, 1001, HashFirstInt, nullptr},
     {"ThermalMaterialTable", &ThermalMaterialTable, 1001, HashFirstInt, nullptr},
     {"ConvectionPropertyTable", &ConvectionPropertyTable, 1001, HashFirstInt, nullptr},
-    {"NodeEnforcedValueTable", &NodeEnforcedValueTable, 1001, HashFirstInt, nullptr},
     {"SurfaceElementTable", &SurfaceElementTable, 1001, HashFirstInt, nullptr},  // Its records begin with the element id.
     {"FluxTable", &FluxTable, 1001, HashSecondInt, nullptr},
     {"TemperatureSetTable", &TemperatureSetTable, 1001, HashFirstInt, nullptr},
     {"PressureSetTable", &PressureSetTable, 1001, HashFirstInt, nullptr},
-    {"ForceSetTable", &ForceSetTable, 1001, HashFirstInt, nullptr},
     {"RbarTable", &RbarTable, 1001, HashFirstInt, nullptr},
     {"PropertyNameTable", &PropertyNameTable, 1001, HashFirstInt, nullptr},
     {"SpringPairTable", &SpringPairTable, 1001, HashNodePairMin, CompareNodePair},
@@ -68,8 +66,6 @@ const ExpectedTable processTables[] = {
     {"ElementSetNameTable", &ElementSetNameTable, 1001, HashFirstInt, nullptr},
     {"SurfaceNameTable", &SurfaceNameTable, 1001, HashFirstInt, nullptr},
     {"GapGroupTable", &GapGroupTable, 101, HashFirstInt, nullptr},
-    {"LoadCombinationTable", &LoadCombinationTable, 501, HashFirstInt, nullptr},
-    {"LoadSetTable", &LoadSetTable, 1001, HashFirstInt, CompareSecondInt},
     {"RloadTable", &RloadTable, 1001, HashFirstInt, nullptr},
     {"DareaTable", &DareaTable, 1001, HashFirstInt, nullptr},
     {"FluidTable", &FluidTable, 1001, HashFirstInt, nullptr},
@@ -102,7 +98,21 @@ class RunTablesTest : public TablesTest {
 
   std::vector<IndexedList*> IndexedLists() {
     RunLists& lists = run.lists;
-    return {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask};
+    return {&lists.pshell, &lists.psolid, &lists.beamProperties, &lists.materials, &lists.pgask, &lists.spc};
+  }
+
+  static SubcaseRecord* NewSubcaseWithSets() {
+    auto* subcase = static_cast<SubcaseRecord*>(AllocateZeroed(sizeof(SubcaseRecord)));
+    IdSetOpen(&subcase->loadIds);
+    IdSetInsert(&subcase->loadIds, 7);
+    return subcase;
+  }
+
+  static Spc1Record* NewSpc1WithNode() {
+    auto* record = static_cast<Spc1Record*>(AllocateZeroed(sizeof(Spc1Record)));
+    ListInit(&record->nodes, &ListPool);
+    ListAppend(&record->nodes, record);
+    return record;
   }
 
   RunState run;
@@ -128,8 +138,8 @@ TEST_F(RunTablesTest, TheTableOfDisplacementSystemsBelongsToTheRun) {
 
 TEST_F(RunTablesTest, EveryListOfTheRunIsEmptyAndDrawsFromItsPool) {
   for (const PooledList* list :
-       {&run.lists.faceScratch, &run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1,
-        &run.lists.spc, &run.lists.tempd, &run.lists.pelas, &run.lists.pgap, &run.lists.hostEntities, &run.lists.subcases}) {
+       {&run.lists.faceScratch, &run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.tempd,
+        &run.lists.pelas, &run.lists.pgap, &run.lists.hostEntities, &run.lists.subcases}) {
     EXPECT_EQ(list->size, 0);
     EXPECT_EQ(list->next, list);
     EXPECT_EQ(list->pool, &run.listPool);
@@ -258,13 +268,15 @@ TEST_F(RunTablesTest, TheCleanUpEmptiesEveryTable) {
 }
 
 TEST_F(RunTablesTest, TheCleanUpEmptiesTheListsOfRecords) {
-  for (PooledList* list : {&run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.spc1,
-                           &run.lists.spc, &run.lists.tempd, &run.lists.pelas, &run.lists.pgap, &run.lists.subcases}) {
+  for (PooledList* list : {&run.lists.rigidElements, &run.lists.mpc, &run.lists.coordinateSystems, &run.lists.gridCp, &run.lists.tempd,
+                           &run.lists.pelas, &run.lists.pgap}) {
     ListAppend(list, AllocateZeroed(64));
   }
   for (IndexedList* list : IndexedLists()) {
     IndexedListAppend(list, 7, AllocateZeroed(64));
   }
+  ListAppend(&run.lists.subcases, NewSubcaseWithSets());
+  IndexedListAppend(&run.lists.spc1, 7, NewSpc1WithNode());
   ListAppend(&TransitionElementList, AllocateZeroed(sizeof(TransitionTetRecord)));
   int part = 0;
   ListAppend(&PartList, &part);
@@ -279,6 +291,19 @@ TEST_F(RunTablesTest, TheCleanUpEmptiesTheListsOfRecords) {
   for (const IndexedList* list : IndexedLists()) {
     EXPECT_EQ(list->size, 0);
     EXPECT_EQ(IndexedListFind(list, 7), nullptr);
+  }
+}
+
+TEST_F(RunTablesTest, TheCleanUpEmptiesTheIndexedTables) {
+  for (IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable}) {
+    IndexedListAppend(table, 7, AllocateZeroed(1024));
+  }
+  int entity = 0;
+  AddToLoadSet(7, constraintSet, reinterpret_cast<Entity*>(&entity));
+  CleanUp(&run);
+  for (const IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable, &LoadSetTable}) {
+    EXPECT_EQ(table->size, 0);
+    EXPECT_EQ(table->slots, nullptr);
   }
 }
 
