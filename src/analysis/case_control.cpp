@@ -20,7 +20,7 @@ struct CaseLine {
 /// Takes the line at the cursor; false at the end of the text, also when the last line has no line end.
 bool TakeCaseLine(CardCursor* cursor, CaseLine* taken) {
   char line[deckLineCapacity];
-  if (**cursor == 0 || ReadDeckLine(cursor, line, sizeof(line)) < 0) {
+  if (ReadDeckLine(cursor, line, sizeof(line)) < 0) {
     return false;
   }
   TrimField(line);

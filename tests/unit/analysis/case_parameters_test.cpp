@@ -44,7 +44,7 @@ class CaseParameters : public CaseTest {
     method.lowPresent = method.highPresent = method.countPresent = 1;
   }
 
-  /// Calls on the parameters of the first case that this case control makes.
+  /// Calls on the parameters of the cases that this case control makes.
   std::vector<std::string> ParametersOf(std::string_view caseControl, std::int32_t targetSolver = 0) {
     ReadCases(std::string(caseControl) + "BEGIN BULK\n");
     return ParametersOfCases(targetSolver);
@@ -55,8 +55,8 @@ class CaseParameters : public CaseTest {
     CreateLoadCases({targetSolver, subcases, boundary, host.GetCurveStore(), addBolts});
     std::vector<std::string> found;
     for (const std::string& call : Calls()) {
-      if (call.starts_with("ParameterSet#1.")) {
-        found.push_back(call.substr(std::strlen("ParameterSet#1.")));
+      if (call.starts_with("ParameterSet#")) {
+        found.push_back(call.substr(call.find('.') + 1));
       }
     }
     return found;
