@@ -69,7 +69,7 @@ FieldUse UseOf(const char* cursor) {
   if (text[0] == 0 || HasStar(text) || IsContinuationMark(text)) {
     return FieldUse::Skipped;
   }
-  return LooksLikeText(text) ? FieldUse::CardEnd : FieldUse::Value;  // So does any keyword.
+  return LooksLikeText(text) ? FieldUse::CardEnd : FieldUse::Value;  // A keyword is text too.
 }
 
 /// Calls `take()` at each field of the card that is neither blank nor a mark, up to the next card. It reads the field or skips it.
