@@ -4,6 +4,7 @@
 #include <map>
 #include <numeric>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "cli/display_text.h"
 #include "memory_host/memory_host.h"
@@ -38,33 +39,40 @@ constexpr std::array<const char*, elementTypes> typeNames = {
 /// Under which heading a kind of entity stands, and what it is called.
 struct EntityWords {
   ObjectType type;
-  const char* title;
+  const char* title;  ///< Null for those that have a table of their own.
   const char* kind;
+  bool isForLoadCases;  ///< Acts through load cases.
 };
 
 /// In the order of the report.
 constexpr EntityWords entityWords[] = {
-    {ObjectType::NodeSystemAssignment, "displacement systems", "assignments to nodes"},
-    {ObjectType::ForceLoad, "loads", "forces and moments"},
-    {ObjectType::Pressure, "loads", "pressures"},
-    {ObjectType::BodyLoad, "loads", "body loads"},
-    {ObjectType::Pretension, "loads", "pretensions"},
-    {ObjectType::ThermalLoad, "loads", "temperatures"},
-    {ObjectType::Flux, "loads", "heat fluxes"},
-    {ObjectType::Convection, "loads", "convections"},
-    {ObjectType::Excitation, "loads", "excitations"},
-    {ObjectType::Constraint, "constraints", "constraints"},
-    {ObjectType::Mpc, "constraints", "ties between nodes"},
-    {ObjectType::RigidConnection, "connections", "rigid connections"},
-    {ObjectType::Spring, "connections", "springs"},
-    {ObjectType::Bush, "connections", "bushes"},
-    {ObjectType::GapEntity, "connections", "gaps"},
-    {ObjectType::Damping, "connections", "dampings"},
-    {ObjectType::MassEntity, "masses", "masses"},
-    {ObjectType::PlotEntity, "plot elements", "plot elements"},
-    {ObjectType::EntitySet, "sets and surfaces", "sets"},
-    {ObjectType::Surface, "sets and surfaces", "surfaces"},
+    {ObjectType::Constraint, nullptr, "constraints", true},
+    {ObjectType::ForceLoad, nullptr, "forces and moments", true},
+    {ObjectType::BodyLoad, nullptr, "body loads", true},
+    {ObjectType::NodeSystemAssignment, "displacement systems", "assignments to nodes", false},
+    {ObjectType::Pressure, "other loads", "pressures", true},
+    {ObjectType::Pretension, "other loads", "pretensions", false},
+    {ObjectType::ThermalLoad, "other loads", "temperatures", true},
+    {ObjectType::Flux, "other loads", "heat fluxes", true},
+    {ObjectType::Convection, "other loads", "convections", true},
+    {ObjectType::Excitation, "other loads", "excitations", true},
+    {ObjectType::Mpc, "ties", "ties between nodes", true},
+    {ObjectType::RigidConnection, "connections", "rigid connections", false},
+    {ObjectType::Spring, "connections", "springs", false},
+    {ObjectType::Bush, "connections", "bushes", false},
+    {ObjectType::GapEntity, "connections", "gaps", false},
+    {ObjectType::Damping, "connections", "dampings", false},
+    {ObjectType::MassEntity, "masses", "masses", false},
+    {ObjectType::PlotEntity, "plot elements", "plot elements", false},
+    {ObjectType::EntitySet, "sets and surfaces", "sets", false},
+    {ObjectType::Surface, "sets and surfaces", "surfaces", false},
 };
+
+const EntityWords* FindWords(ObjectType type) {
+  const auto* words =
+      std::find_if(std::begin(entityWords), std::end(entityWords), [type](const EntityWords& held) { return held.type == type; });
+  return words == std::end(entityWords) ? nullptr : words;
+}
 
 /// Items by kind, with the kinds in order of first use.
 class KindList {
@@ -84,9 +92,8 @@ class KindList {
 };
 
 const char* KindOf(ObjectType type) {
-  const auto* words =
-      std::find_if(std::begin(entityWords), std::end(entityWords), [type](const EntityWords& held) { return held.type == type; });
-  return words == std::end(entityWords) ? memory::TypeName(type) : words->kind;
+  const EntityWords* words = FindWords(type);
+  return words == nullptr ? memory::TypeName(type) : words->kind;
 }
 
 NamedItem ItemOf(const EntityInfo& entity) { return {entity.shownId, DisplayText(entity.name)}; }
@@ -99,6 +106,9 @@ void AddEntityGroups(const memory::MemoryBoundaryStore& store, std::vector<ItemG
   }
   const std::size_t firstGroup = groups.size();
   for (const EntityWords& words : entityWords) {
+    if (words.title == nullptr) {
+      continue;
+    }
     if (groups.size() == firstGroup || groups.back().title != words.title) {
       groups.push_back({words.title, {}});
     }
@@ -127,23 +137,56 @@ ItemGroup ElementGroups(const memory::MemoryGroupStore& store) {
   return {"element groups", kinds.Take()};
 }
 
-std::vector<LoadCaseSummary> LoadCases(const memory::MemoryBoundaryStore& store) {
+ParameterSummary Summarise(const memory::MemoryParameterSet::Parameter& parameter) {
+  ParameterSummary summary{DisplayText(parameter.name), {}};
+  if (!parameter.entity.empty()) {
+    summary.value = DisplayText(parameter.entity);
+  } else if (parameter.present) {
+    summary.value = parameter.value;
+  }
+  return summary;
+}
+
+/// The load cases, and in `used` all entities that one of them has.
+std::vector<LoadCaseSummary> LoadCases(const memory::MemoryBoundaryStore& store, std::unordered_set<const Entity*>* used) {
   std::unordered_map<const Entity*, const EntityInfo*> infoOf;
   for (const EntityInfo* entity : store.entities) {
     infoOf.emplace(entity->entity, entity);
   }
   std::vector<LoadCaseSummary> summaries;
   for (const memory::MemoryLoadCase& loadCase : store.loadCases) {
+    LoadCaseSummary& summary = summaries.emplace_back();
+    summary.name = DisplayText(loadCase.name);
+    summary.solver = DisplayText(loadCase.solver);
+    summary.analysis = DisplayText(loadCase.analysis);
     KindList members;
     for (const memory::MemoryLoadCase::Member& member : loadCase.members) {
+      used->insert(member.entity);
       const auto found = infoOf.find(member.entity);
       if (found != infoOf.end()) {
         members.Add(KindOf(found->second->object.type), ItemOf(*found->second));
       }
     }
-    summaries.push_back({DisplayText(loadCase.name), DisplayText(loadCase.solver), DisplayText(loadCase.analysis), members.Take()});
+    summary.members = members.Take();
+    for (const memory::MemoryParameterSet& set : loadCase.parameterSets) {
+      for (const memory::MemoryParameterSet::Parameter& parameter : set.parameters) {
+        summary.parameters.push_back(Summarise(parameter));
+      }
+    }
   }
   return summaries;
+}
+
+/// Entities that act through load cases and are not among the used ones.
+std::vector<ItemKind> InNoLoadCase(const memory::MemoryBoundaryStore& store, const std::unordered_set<const Entity*>& used) {
+  KindList kinds;
+  for (const EntityInfo* entity : store.entities) {
+    const EntityWords* words = FindWords(entity->object.type);
+    if (words != nullptr && words->isForLoadCases && used.count(entity->entity) == 0) {
+      kinds.Add(words->kind, ItemOf(*entity));
+    }
+  }
+  return kinds.Take();
 }
 
 std::vector<PartSummary> Parts(const MemoryHost& host) {
@@ -208,10 +251,15 @@ ModelSummary SummariseModel(const MemoryHost& host) {
   LinkProperties(host, &summary);
   summary.materials = SummariseMaterials(host);
   summary.systems = SummariseSystems(host);
+  summary.constraints = SummariseConstraints(host);
+  summary.forces = SummariseForces(host);
+  summary.bodyLoads = SummariseBodyLoads(host);
   summary.groups = {FieldGroup(host.Curves())};
   AddEntityGroups(host.Boundary(), summary.groups);
   summary.groups.push_back(ElementGroups(host.Groups()));
-  summary.loadCases = LoadCases(host.Boundary());
+  std::unordered_set<const Entity*> used;
+  summary.loadCases = LoadCases(host.Boundary(), &used);
+  summary.inNoLoadCase = InNoLoadCase(host.Boundary(), used);
   summary.isHandedOver = host.IsAttached();
   return summary;
 }

@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "cli/load_summary.h"
 #include "cli/property_summary.h"
 #include "cli/system_summary.h"
 
@@ -54,11 +56,18 @@ struct ItemGroup {
   std::vector<ItemKind> kinds;
 };
 
+/// A parameter of a load case's analysis.
+struct ParameterSummary {
+  std::string name;
+  std::variant<std::monostate, double, std::string> value;  ///< Nothing when it was said not to be given.
+};
+
 struct LoadCaseSummary {
   std::string name;
   std::string solver;
   std::string analysis;
   std::vector<ItemKind> members;  ///< Kinds of the entities that act in it.
+  std::vector<ParameterSummary> parameters;
 };
 
 struct ModelSummary {
@@ -69,8 +78,13 @@ struct ModelSummary {
   std::vector<PropertySummary> properties;
   std::vector<MaterialSummary> materials;
   std::vector<SystemSummary> systems;
+  std::vector<ConstraintSummary> constraints;
+  std::vector<ForceSummary> forces;
+  std::vector<BodyLoadSummary> bodyLoads;
   std::vector<ItemGroup> groups;  ///< The other headings, in the report's order; empty ones have no kinds.
   std::vector<LoadCaseSummary> loadCases;
+  /// Constraints and loads that no load case has, by kind. Without load cases all of them.
+  std::vector<ItemKind> inNoLoadCase;
   bool isHandedOver = false;  ///< The host received the finished model.
 };
 

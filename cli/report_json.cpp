@@ -32,18 +32,24 @@ Json JsonOf(const PartSummary& part) {
           {"properties", part.properties}};
 }
 
+/// Sets what a variant holds; null for nothing.
+template <typename Variant>
+void SetHeld(Json& shown, const Variant& value) {
+  shown = nullptr;
+  std::visit(
+      [&](const auto& held) {
+        if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, std::monostate>) {
+          shown = held;
+        }
+      },
+      value);
+}
+
 /// Values by key; null for a value that the deck left blank and for a material that is none.
 Json JsonOf(const std::vector<ValueSummary>& values) {
   Json json = Json::object();
   for (const ValueSummary& value : values) {
-    Json& shown = json[value.key] = nullptr;
-    std::visit(
-        [&](const auto& held) {
-          if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, std::monostate>) {
-            shown = held;
-          }
-        },
-        value.value);
+    SetHeld(json[value.key], value.value);
   }
   return json;
 }
@@ -69,6 +75,30 @@ Json JsonOf(const SystemSummary& system) {
   return {{"id", system.id}, {"kind", system.kind}, {"name", system.name}, {"origin", origin}, {"nodes", system.nodes}};
 }
 
+Json JsonOf(const ConstraintSummary& constraint) {
+  Json json = {
+      {"id", constraint.id}, {"name", constraint.name},         {"enforced", constraint.isEnforced}, {"components", constraint.components},
+      {"values", nullptr},   {"byField", constraint.isByField}, {"nodes", constraint.nodes},         {"system", constraint.system}};
+  if (constraint.isEnforced && !constraint.isByField) {
+    json["values"] = constraint.values;
+  }
+  return json;
+}
+
+Json JsonOf(const ForceSummary& force) {
+  Json json = {{"id", force.id},       {"name", force.name},    {"force", nullptr}, {"moment", nullptr}, {"byField", force.isByField},
+               {"nodes", force.nodes}, {"system", force.system}};
+  if (!force.isByField) {
+    json["force"] = force.force;
+    json["moment"] = force.moment;
+  }
+  return json;
+}
+
+Json JsonOf(const BodyLoadSummary& load) {
+  return {{"id", load.id}, {"name", load.name}, {"kind", load.kind}, {"vector", load.vector}, {"parts", load.parts}};
+}
+
 Json JsonOf(const std::vector<ItemKind>& kinds) {
   Json json = Json::object();
   for (const ItemKind& kind : kinds) {
@@ -80,8 +110,21 @@ Json JsonOf(const std::vector<ItemKind>& kinds) {
   return json;
 }
 
+/// Values by name; null for one that is not given.
+Json JsonOf(const std::vector<ParameterSummary>& parameters) {
+  Json json = Json::object();
+  for (const ParameterSummary& parameter : parameters) {
+    SetHeld(json[parameter.name], parameter.value);
+  }
+  return json;
+}
+
 Json JsonOf(const LoadCaseSummary& loadCase) {
-  return {{"name", loadCase.name}, {"solver", loadCase.solver}, {"analysis", loadCase.analysis}, {"members", JsonOf(loadCase.members)}};
+  return {{"name", loadCase.name},
+          {"solver", loadCase.solver},
+          {"analysis", loadCase.analysis},
+          {"members", JsonOf(loadCase.members)},
+          {"parameters", JsonOf(loadCase.parameters)}};
 }
 
 template <typename Item>
@@ -102,11 +145,15 @@ Json JsonOf(const ModelSummary& model) {
                {"parts", ArrayOf(model.parts)},
                {"properties", ArrayOf(model.properties)},
                {"materials", ArrayOf(model.materials)},
-               {"coordinate systems", ArrayOf(model.systems)}};
+               {"coordinate systems", ArrayOf(model.systems)},
+               {"constraints", ArrayOf(model.constraints)},
+               {"forces and moments", ArrayOf(model.forces)},
+               {"body loads", ArrayOf(model.bodyLoads)}};
   for (const ItemGroup& group : model.groups) {
     json[group.title] = JsonOf(group.kinds);
   }
   json["load cases"] = ArrayOf(model.loadCases);
+  json["in no load case"] = JsonOf(model.inNoLoadCase);
   return json;
 }
 

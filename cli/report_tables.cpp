@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "cli/text_table.h"
@@ -67,12 +68,38 @@ std::string MaterialText(const PropertySummary& property) {
   return name.empty() ? fmt::format("{}", property.material->number) : fmt::format("{} {}", property.material->number, name);
 }
 
-std::string OriginText(const SystemSummary& system) {
-  if (!system.origin) {
+std::string VectorText(const Vector& vector) { return fmt::format("({:g}, {:g}, {:g})", vector[0], vector[1], vector[2]); }
+
+std::string OriginText(const SystemSummary& system) { return system.origin ? VectorText(*system.origin) : none; }
+
+std::string NameText(const std::string& name) { return name.empty() ? "(no name)" : name; }
+
+/// Id of a system in which components act; the global one has none.
+std::string SystemText(std::int32_t id) { return id == 0 ? none : fmt::format("{}", id); }
+
+/// "1: 0.5, 3: 0": the enforced values of the components that are held.
+std::string EnforcedText(const ConstraintSummary& constraint) {
+  if (!constraint.isEnforced) {
     return none;
   }
-  const auto& [x, y, z] = *system.origin;
-  return fmt::format("({:g}, {:g}, {:g})", x, y, z);
+  if (constraint.isByField) {
+    return "by field";
+  }
+  std::vector<std::string> values;
+  for (const char digit : constraint.components) {
+    values.push_back(fmt::format("{}: {:g}", digit, constraint.values.at(static_cast<std::size_t>(digit - '1'))));
+  }
+  return values.empty() ? none : fmt::format("{}", fmt::join(values, ", "));
+}
+
+/// Adds the first rows, `cells(item)` for each, and gives the table's text with the number of the others.
+template <typename Item, typename Cells>
+std::string ShortenedTable(TextTable table, const std::vector<Item>& items, Cells cells) {
+  const std::size_t shown = std::min(items.size(), mostRows);
+  for (std::size_t i = 0; i < shown; ++i) {
+    table.Add(cells(items[i]));
+  }
+  return table.Text() + (shown < items.size() ? RestLine(items.size() - shown) : "");
 }
 
 }  // namespace
@@ -131,6 +158,41 @@ std::string SystemsTable(const ModelSummary& model) {
                OriginText(system)});
   }
   return table.Text();
+}
+
+std::string RestLine(std::size_t count) { return fmt::format("  ... and {} more, which the JSON report has\n", count); }
+
+std::string ConstraintsTable(const ModelSummary& model) {
+  TextTable table(
+      {{"Id", Align::Right, 8}, {"Kind"}, {"Name"}, {"Components"}, {"Nodes", Align::Right}, {"System", Align::Right}, {"Values"}});
+  return ShortenedTable(std::move(table), model.constraints, [](const ConstraintSummary& constraint) -> std::vector<std::string> {
+    return {fmt::format("{}", constraint.id),
+            constraint.isEnforced ? "enforced" : "plain",
+            NameText(constraint.name),
+            constraint.components.empty() ? none : constraint.components,
+            fmt::format("{}", constraint.nodes),
+            SystemText(constraint.system),
+            EnforcedText(constraint)};
+  });
+}
+
+std::string ForcesTable(const ModelSummary& model) {
+  TextTable table({{"Id", Align::Right, 8}, {"Name"}, {"Nodes", Align::Right}, {"System", Align::Right}, {"Force"}, {"Moment"}});
+  return ShortenedTable(std::move(table), model.forces, [](const ForceSummary& force) -> std::vector<std::string> {
+    return {fmt::format("{}", force.id),
+            NameText(force.name),
+            fmt::format("{}", force.nodes),
+            SystemText(force.system),
+            force.isByField ? "by field" : VectorText(force.force),
+            force.isByField ? "by field" : VectorText(force.moment)};
+  });
+}
+
+std::string BodyLoadsTable(const ModelSummary& model) {
+  TextTable table({{"Id", Align::Right, 8}, {"Kind"}, {"Name"}, {"Parts", Align::Right}, {"Vector"}});
+  return ShortenedTable(std::move(table), model.bodyLoads, [](const BodyLoadSummary& load) -> std::vector<std::string> {
+    return {fmt::format("{}", load.id), load.kind, NameText(load.name), fmt::format("{}", load.parts), VectorText(load.vector)};
+  });
 }
 
 }  // namespace btz::cli

@@ -1,4 +1,4 @@
-// The tables of the text report: parts, properties, materials and coordinate systems.
+// The tables of the text report.
 #pragma once
 
 #include <string>
@@ -14,5 +14,15 @@ std::string PartsTable(const ModelSummary& model);
 std::string PropertiesTable(const ModelSummary& model);
 std::string MaterialsTable(const ModelSummary& model);
 std::string SystemsTable(const ModelSummary& model);
+
+// Of these, decks have thousands: a longer table ends with the number of the rows left out.
+std::string ConstraintsTable(const ModelSummary& model);
+std::string ForcesTable(const ModelSummary& model);
+std::string BodyLoadsTable(const ModelSummary& model);
+
+/// The line that stands for the rest of a shortened table or list.
+std::string RestLine(std::size_t count);
+
+inline constexpr std::size_t mostRows = 40;  ///< Rows shown of a shortened table.
 
 }  // namespace btz::cli

@@ -1,5 +1,6 @@
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <iterator>
 #include <vector>
 
@@ -138,10 +139,13 @@ std::string NamesText(const ItemKind& kind) {
       names.push_back("...");
       break;
     }
-    names.push_back(item.name.empty() ? fmt::format("{}", item.id) : item.name);
+    names.push_back(item.name.empty() ? fmt::format("id {}", item.id) : item.name);
   }
   return Join(names);
 }
+
+/// Whether there is something that load cases could have and none has.
+bool HasUnusedEntities(const ModelSummary& model) { return !model.inNoLoadCase.empty(); }
 
 std::string Capitalised(std::string text) {
   if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') {
@@ -173,23 +177,51 @@ void AddGroup(TextReport& text, const ItemGroup& group) {
   }
 }
 
-std::string MembersText(const LoadCaseSummary& loadCase) {
-  std::vector<std::string> parts;
-  for (const ItemKind& kind : loadCase.members) {
-    parts.push_back(fmt::format("{} {}", kind.items.size(), kind.kind));
+/// A line for each kind below a load case: "pressures  1  Pressure2".
+void AddMembers(TextReport& text, const std::vector<ItemKind>& kinds) {
+  for (const ItemKind& kind : kinds) {
+    text.Line("      {:<{}}{:<6}  {}", kind.kind, labelWidth, kind.items.size(), NamesText(kind));
   }
-  return parts.empty() ? "empty" : Join(parts);
 }
 
-void AddLoadCases(TextReport& text, const std::vector<LoadCaseSummary>& loadCases) {
+std::string ParameterText(const ParameterSummary& parameter) {
+  if (const double* number = std::get_if<double>(&parameter.value)) {
+    return fmt::format("{} = {:g}", parameter.name, *number);
+  }
+  const std::string* name = std::get_if<std::string>(&parameter.value);
+  return fmt::format("{} = {}", parameter.name, name == nullptr ? "unset" : *name);
+}
+
+void AddLoadCase(TextReport& text, const LoadCaseSummary& loadCase) {
+  text.Line("  {}  ({}, {}){}", loadCase.name.empty() ? "(no name)" : loadCase.name, loadCase.solver, loadCase.analysis,
+            loadCase.members.empty() ? ": empty" : "");
+  AddMembers(text, loadCase.members);
+  for (const ParameterSummary& parameter : loadCase.parameters) {
+    text.Line("      {}", ParameterText(parameter));
+  }
+}
+
+void AddLoadCases(TextReport& text, const ModelSummary& model) {
+  const std::vector<LoadCaseSummary>& loadCases = model.loadCases;
   if (loadCases.empty()) {
+    if (HasUnusedEntities(model)) {
+      text.Blank();
+      text.Heading("Load cases", "none: the deck has no subcase with loads, or a single one that uses all of them");
+    }
     return;
   }
   text.Blank();
   text.Heading("Load cases", loadCases.size());
-  for (const LoadCaseSummary& loadCase : loadCases) {
-    text.Line("  {:<{}}{} {}: {}", loadCase.name.empty() ? "(no name)" : loadCase.name, labelWidth - 2, loadCase.solver, loadCase.analysis,
-              MembersText(loadCase));
+  const std::size_t shown = std::min(loadCases.size(), mostRows);
+  for (std::size_t i = 0; i < shown; ++i) {
+    AddLoadCase(text, loadCases[i]);
+  }
+  if (shown < loadCases.size()) {
+    text.Append(RestLine(loadCases.size() - shown));
+  }
+  if (HasUnusedEntities(model)) {
+    text.Line("  in no load case");
+    AddMembers(text, model.inNoLoadCase);
   }
 }
 
@@ -205,10 +237,13 @@ void AddMissing(TextReport& text, const ModelSummary& model) {
   note("properties", model.properties.empty());
   note("materials", model.materials.empty());
   note("coordinate systems", model.systems.empty());
+  note("constraints", model.constraints.empty());
+  note("forces and moments", model.forces.empty());
+  note("body loads", model.bodyLoads.empty());
   for (const ItemGroup& group : model.groups) {
     note(group.title.c_str(), group.kinds.empty());
   }
-  note("load cases", model.loadCases.empty());
+  note("load cases", model.loadCases.empty() && !HasUnusedEntities(model));
   if (!missing.empty()) {
     text.Blank();
     text.Heading("Not in the model", JoinWrapped(missing));
@@ -272,10 +307,13 @@ std::string ReportText(const RunReport& report) {
   AddProperties(text, report.model);
   AddTable(text, "Materials", report.model.materials, MaterialsTable(report.model));
   AddTable(text, "Coordinate systems", report.model.systems, SystemsTable(report.model));
+  AddTable(text, "Constraints", report.model.constraints, ConstraintsTable(report.model));
+  AddTable(text, "Forces and moments", report.model.forces, ForcesTable(report.model));
+  AddTable(text, "Body loads", report.model.bodyLoads, BodyLoadsTable(report.model));
   for (const ItemGroup& group : report.model.groups) {
     AddGroup(text, group);
   }
-  AddLoadCases(text, report.model.loadCases);
+  AddLoadCases(text, report.model);
   AddMissing(text, report.model);
   AddLog(text, report.log);
   return text.Take();
