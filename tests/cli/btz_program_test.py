@@ -475,6 +475,94 @@ class Report(ProgramTest):
             [{"id": 10, "kind": "cylindrical", "name": "CyliCoordinate10", "origin": [0.0, 0.0, 5.0], "nodes": 2}],
         )
 
+    LOADS = (
+        "$Pull\n"
+        + card("FORCE", 10, 2, 0, "2.0", "1.0", "0.0", "0.0")
+        + card("FORCE", 11, 2, 0, "2.0", "1.0", "0.0", "0.0")
+        + card("FORCE", 11, 3, 0, "3.0", "1.0", "0.0", "0.0")
+        + card("GRAV", 20, 0, "9.81", "0.0", "0.0", "-1.0")
+        + card("SPC", 1, 1, 123456, "0.0")
+        + card("SPC", 1, 3, 3, "0.5")
+        + "ENDDATA\n"
+    )
+    CASES = (
+        "SOL 101\nCEND\n"
+        "SUBCASE 1\n  SUBTITLE = Flügel unten\n  SPC = 1\n  LOAD = 10\n"
+        "SUBCASE 2\n  LABEL = Own weight\n  SPC = 1\n  LOAD = 20\n"
+        "BEGIN BULK\n"
+    )
+
+    def test_constraints_loads_and_load_cases(self):
+        done = self.run_btz("inspect", self.write("loads.bdf", self.CASES + NODES + TRIANGLE + self.LOADS))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertIn(
+            "\nConstraints         2\n"
+            "        Id  Kind      Name                  Components  Nodes  System  Values\n"
+            "         4  enforced  EnforcedConstraint_1  3               1       -  3: 0.5\n"
+            "         5  plain     Node_Constraint_1     123456          1       -  -\n",
+            done.stdout,
+        )
+        self.assertIn(
+            "\nForces and moments  2\n"
+            "        Id  Name         Nodes  System  Force      Moment\n"
+            "         2  Pull             1       -  (2, 0, 0)  (0, 0, 0)\n"
+            "         3  PointForce1      2       -  by field   by field\n",
+            done.stdout,
+        )
+        self.assertIn(
+            "\nBody loads          1\n"
+            "        Id  Kind     Name       Parts  Vector\n"
+            "         1  gravity  (no name)      1  (0, 0, -9.81)\n",
+            done.stdout,
+        )
+        self.assertIn(
+            "\nLoad cases          2\n"
+            "  Flügel unten  (NASTRAN, LINEAR)\n"
+            "      forces and moments  1       Pull\n"
+            "      constraints         2       Node_Constraint_1, EnforcedConstraint_1\n"
+            "  Own weight  (NASTRAN, LINEAR)\n"
+            "      body loads          1       id 1\n"
+            "      constraints         2       Node_Constraint_1, EnforcedConstraint_1\n"
+            "  in no load case\n"
+            "      forces and moments  1       PointForce1\n",
+            done.stdout,
+        )
+
+    def test_json_has_all_of_constraints_loads_and_load_cases(self):
+        done = self.run_btz("inspect", "--json", self.write("loads.bdf", self.CASES + NODES + TRIANGLE + self.LOADS))
+        model = json.loads(done.stdout)["model"]
+        enforced, plain = model["constraints"]
+        self.assertEqual((enforced["name"], enforced["enforced"], enforced["components"]), ("EnforcedConstraint_1", True, "3"))
+        self.assertEqual(enforced["values"], [0.0, 0.0, 0.5, 0.0, 0.0, 0.0])
+        self.assertEqual((plain["name"], plain["enforced"], plain["components"]), ("Node_Constraint_1", False, "123456"))
+        self.assertIsNone(plain["values"])
+        pull, spread = model["forces and moments"]
+        self.assertEqual((pull["force"], pull["byField"], pull["nodes"]), ([2.0, 0.0, 0.0], False, 1))
+        self.assertEqual((spread["force"], spread["byField"], spread["nodes"]), (None, True, 2))
+        self.assertEqual(
+            model["body loads"], [{"id": 1, "name": "", "kind": "gravity", "vector": [0.0, 0.0, -9.81], "parts": 1}]
+        )
+        first, second = model["load cases"]
+        self.assertEqual((first["name"], first["solver"], first["analysis"]), ("Flügel unten", "NASTRAN", "LINEAR"))
+        self.assertEqual(
+            first["members"],
+            {
+                "forces and moments": [{"id": 2, "name": "Pull"}],
+                "constraints": [{"id": 5, "name": "Node_Constraint_1"}, {"id": 4, "name": "EnforcedConstraint_1"}],
+            },
+        )
+        self.assertEqual(second["members"]["body loads"], [{"id": 1, "name": ""}])
+        self.assertEqual(model["in no load case"], {"forces and moments": [{"id": 3, "name": "PointForce1"}]})
+
+    def test_a_single_subcase_that_uses_everything_makes_no_load_case(self):
+        case = "SUBCASE 1\n  SPC = 1\n  LOAD = 10\nBEGIN BULK\n"
+        bulk = NODES + TRIANGLE + card("FORCE", 10, 2, 0, "2.0", "1.0", "0.0", "0.0") + card("SPC", 1, 1, 123456, "0.0")
+        done = self.run_btz("inspect", self.write("single.bdf", case + bulk))
+        self.assertRegex(done.stdout, r"(?m)^Load cases +none: the deck has no subcase with loads, or a single one that uses all of them$")
+        done = self.run_btz("inspect", self.write("more.bdf", case + bulk + card("GRAV", 20, 0, "9.81", "0.0", "0.0", "-1.0")))
+        self.assertRegex(done.stdout, r"(?m)^Load cases +1$")
+        self.assertRegex(done.stdout, r"(?m)^  in no load case$")
+
     def test_the_readme_shows_what_the_example_gives(self):
         project = pathlib.Path(__file__).resolve().parents[2]
         done = self.run_btz("inspect", str(project / "examples" / "bracket.bdf"))

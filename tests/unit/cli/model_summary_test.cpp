@@ -74,65 +74,139 @@ TEST(ModelSummary, PartsCountTheirElementsByType) {
   EXPECT_TRUE(summary.parts[2].isRigid);
 }
 
-TEST(ModelSummary, EntitiesStandUnderTheirHeadings) {
+TEST(ModelSummary, EntitiesWithoutATableStandUnderTheirHeadings) {
   memory::MemoryHost host;
   BoundaryStore* store = host.GetBoundaryStore();
-  Pressure* pressure = nullptr;
-  store->CreatePressure(&pressure);
-  pressure->SetName(L"Pressure2");
-  for (const wchar_t* name : {L"Pull", L"Push"}) {
-    ForceLoad* force = nullptr;
-    std::int32_t id = 0;
-    store->CreateForce(&force, &id);
-    force->SetName(name);
+  ForceLoad* force = nullptr;
+  std::int32_t forceId = 0;
+  store->CreateForce(&force, &forceId);
+  for (const wchar_t* name : {L"Pressure2", L"Suction"}) {
+    Pressure* pressure = nullptr;
+    store->CreatePressure(&pressure);
+    pressure->SetName(name);
   }
+  Flux* flux = nullptr;
+  store->CreateFlux(&flux);
   Mpc* tie = nullptr;
   store->CreateMpc(&tie);
 
   const ModelSummary summary = SummariseModel(host);
 
-  const ItemGroup& loads = GroupOf(summary, "loads");
+  EXPECT_EQ(summary.forces.size(), 1u);
+  const ItemGroup& loads = GroupOf(summary, "other loads");
   ASSERT_EQ(loads.kinds.size(), 2u);
-  EXPECT_EQ(loads.kinds[0].kind, "forces and moments");
+  EXPECT_EQ(loads.kinds[0].kind, "pressures");
   ASSERT_EQ(loads.kinds[0].items.size(), 2u);
   EXPECT_EQ(loads.kinds[0].items[0].id, 2);  // Ids run over all entities.
-  EXPECT_EQ(loads.kinds[0].items[0].name, "Pull");
-  EXPECT_EQ(loads.kinds[0].items[1].name, "Push");
-  EXPECT_EQ(loads.kinds[1].kind, "pressures");
-  EXPECT_EQ(loads.kinds[1].items[0].name, "Pressure2");
-  const ItemGroup& constraints = GroupOf(summary, "constraints");
-  ASSERT_EQ(constraints.kinds.size(), 1u);
-  EXPECT_EQ(constraints.kinds[0].kind, "ties between nodes");
+  EXPECT_EQ(loads.kinds[0].items[0].name, "Pressure2");
+  EXPECT_EQ(loads.kinds[0].items[1].name, "Suction");
+  EXPECT_EQ(loads.kinds[1].kind, "heat fluxes");
+  const ItemGroup& ties = GroupOf(summary, "ties");
+  ASSERT_EQ(ties.kinds.size(), 1u);
+  EXPECT_EQ(ties.kinds[0].kind, "ties between nodes");
 }
 
-TEST(ModelSummary, LoadCasesCountWhatActsInThem) {
-  memory::MemoryHost host;
-  BoundaryStore* store = host.GetBoundaryStore();
-  LoadCase* loadCase = nullptr;
-  store->CreateLoadCase(&loadCase, -1);
-  loadCase->SetName(L"Landing");
-  loadCase->SetSolverProfile(L"NASTRAN", L"Linear");
-  for (int i = 0; i < 2; ++i) {
+/// A host with a way to load cases and what acts in them.
+class CaseHost {
+ public:
+  LoadCase* MakeCase(const wchar_t* name) {
+    LoadCase* loadCase = nullptr;
+    Store()->CreateLoadCase(&loadCase, -1);
+    loadCase->SetName(name);
+    loadCase->SetSolverProfile(L"NASTRAN", L"LINEAR");
+    return loadCase;
+  }
+
+  ForceLoad* MakeForce(const wchar_t* name) {
     ForceLoad* force = nullptr;
     std::int32_t id = 0;
-    store->CreateForce(&force, &id);
-    loadCase->AddEntity(force, 0, 0.0);
+    Store()->CreateForce(&force, &id);
+    force->SetName(name);
+    return force;
   }
-  Constraint* constraint = nullptr;
-  store->CreateConstraint(&constraint, 0);
-  loadCase->AddEntity(constraint, 0, 0.0);
 
-  const ModelSummary summary = SummariseModel(host);
+  Constraint* MakeConstraint(const wchar_t* name) {
+    Constraint* constraint = nullptr;
+    Store()->CreateConstraint(&constraint, 0);
+    constraint->SetName(name);
+    return constraint;
+  }
+
+  BoundaryStore* Store() { return host.GetBoundaryStore(); }
+
+  memory::MemoryHost host;
+};
+
+TEST(ModelSummary, LoadCasesNameWhatActsInThemByKind) {
+  CaseHost built;
+  LoadCase* loadCase = built.MakeCase(L"Landing");
+  loadCase->AddEntity(built.MakeForce(L"Left"), 0, 0.0);
+  loadCase->AddEntity(built.MakeConstraint(L"Ground"), 0, 0.0);
+  loadCase->AddEntity(built.MakeForce(L"Right"), 0, 0.0);
+
+  const ModelSummary summary = SummariseModel(built.host);
 
   ASSERT_EQ(summary.loadCases.size(), 1u);
   const LoadCaseSummary& landing = summary.loadCases[0];
   EXPECT_EQ(landing.name, "Landing");
   EXPECT_EQ(landing.solver, "NASTRAN");
-  EXPECT_EQ(landing.analysis, "Linear");
+  EXPECT_EQ(landing.analysis, "LINEAR");
   ASSERT_EQ(landing.members.size(), 2u);
   EXPECT_EQ(landing.members[0].kind, "forces and moments");
-  EXPECT_EQ(landing.members[0].items.size(), 2u);
+  ASSERT_EQ(landing.members[0].items.size(), 2u);
+  EXPECT_EQ(landing.members[0].items[0].name, "Left");
+  EXPECT_EQ(landing.members[0].items[1].name, "Right");
   EXPECT_EQ(landing.members[1].kind, "constraints");
+  ASSERT_EQ(landing.members[1].items.size(), 1u);
+  EXPECT_EQ(landing.members[1].items[0].name, "Ground");
+  EXPECT_TRUE(landing.parameters.empty());
+  EXPECT_TRUE(summary.inNoLoadCase.empty());
+}
+
+TEST(ModelSummary, LoadCasesHaveTheirParameters) {
+  CaseHost built;
+  ParameterSet* parameters = built.MakeCase(L"Modes")->GetParameters(L"NASTRAN", L"NORMALMODE", 14);
+  parameters->SetInt(L"Number of Modes", 12, 1);
+  parameters->SetReal(L"Min frequency", 2.5);
+  parameters->SetRealOptional(L"Max frequency", 7.5, 1, 7);
+  parameters->SetRealOptional(L"Shift", 9.5, 0, 7);
+  parameters->SetEntityName(L"Surface", L"Hull", 6);
+
+  const std::vector<ParameterSummary> shown = SummariseModel(built.host).loadCases.at(0).parameters;
+
+  ASSERT_EQ(shown.size(), 5u);
+  EXPECT_EQ(shown[0].name, "Number of Modes");
+  EXPECT_EQ(std::get<double>(shown[0].value), 12.0);
+  EXPECT_EQ(std::get<double>(shown[1].value), 2.5);
+  EXPECT_EQ(std::get<double>(shown[2].value), 7.5);
+  EXPECT_TRUE(std::holds_alternative<std::monostate>(shown[3].value));
+  EXPECT_EQ(std::get<std::string>(shown[4].value), "Hull");
+}
+
+TEST(ModelSummary, WhatIsInNoLoadCaseIsFoundByKind) {
+  CaseHost built;
+  built.MakeForce(L"Unused");
+  LoadCase* first = built.MakeCase(L"A");
+  LoadCase* second = built.MakeCase(L"B");
+  ForceLoad* inBoth = built.MakeForce(L"In both");
+  first->AddEntity(inBoth, 0, 0.0);
+  second->AddEntity(inBoth, 0, 0.0);
+  second->AddEntity(built.MakeConstraint(L"In the second"), 0, 0.0);
+  built.MakeConstraint(L"Loose");
+  built.MakeForce(L"Unused too");
+  MassEntity* mass = nullptr;
+  built.Store()->CreateMass(&mass);  // Acts without load cases.
+
+  const std::vector<ItemKind> kinds = SummariseModel(built.host).inNoLoadCase;
+
+  ASSERT_EQ(kinds.size(), 2u);
+  EXPECT_EQ(kinds[0].kind, "forces and moments");
+  ASSERT_EQ(kinds[0].items.size(), 2u);
+  EXPECT_EQ(kinds[0].items[0].name, "Unused");
+  EXPECT_EQ(kinds[0].items[1].name, "Unused too");
+  EXPECT_EQ(kinds[1].kind, "constraints");
+  ASSERT_EQ(kinds[1].items.size(), 1u);
+  EXPECT_EQ(kinds[1].items[0].name, "Loose");
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ RunReport SmallReport() {
   part.name = "Wing skin";
   part.elements = report.model.elements;
   report.model.parts.push_back(part);
-  report.model.groups = {{"curves and fields", {}}, {"loads", {}}};
+  report.model.groups = {{"curves and fields", {}}, {"other loads", {}}};
   report.model.isHandedOver = true;
   report.log.isPresent = true;
   report.log.isComplete = true;
@@ -196,37 +196,131 @@ TEST(ReportText, NodesInLocalSystemsAreOnlyToldWhenThereAreSome) {
 TEST(ReportText, WhatTheModelDoesNotHaveTakesOneLine) {
   const std::string text = ReportText(SmallReport());
 
-  EXPECT_EQ(LineWith(text, "Not in the model"),
-            "Not in the model properties, materials, coordinate systems, curves and fields, loads, load cases");
+  EXPECT_THAT(text, HasSubstr("\nNot in the model    properties, materials, coordinate systems, constraints, forces and moments,\n"
+                              "                    body loads, curves and fields, other loads, load cases\n"));
 }
 
 TEST(ReportText, KindsShowTheirFirstNames) {
   RunReport report = SmallReport();
-  ItemKind forces{"forces", {}};
+  ItemKind pressures{"pressures", {}};
   for (std::int32_t id = 1; id <= 6; ++id) {
-    forces.items.push_back({id, "PointForce" + std::to_string(id)});
+    pressures.items.push_back({id, "Pressure" + std::to_string(id)});
   }
-  report.model.groups[1].kinds = {forces, {"pressures", {{9, ""}}}};
+  report.model.groups[1].kinds = {pressures, {"heat fluxes", {{9, ""}}}};
 
   const std::string text = ReportText(report);
 
-  EXPECT_THAT(text, HasSubstr("\nLoads               7\n"));
-  EXPECT_EQ(LineWith(text, "  forces"), "forces 6 PointForce1, PointForce2, PointForce3, PointForce4, ...");
-  EXPECT_EQ(LineWith(text, "pressures"), "pressures 1 9");
-  EXPECT_EQ(LineWith(text, "Not in the model"),
-            "Not in the model properties, materials, coordinate systems, curves and fields, load cases");
+  EXPECT_THAT(text, HasSubstr("\nOther loads         7\n"));
+  EXPECT_EQ(LineWith(text, "  pressures"), "pressures 6 Pressure1, Pressure2, Pressure3, Pressure4, ...");
+  EXPECT_EQ(LineWith(text, "heat fluxes"), "heat fluxes 1 id 9");
+  EXPECT_THAT(text, Not(HasSubstr("other loads")));
 }
 
-TEST(ReportText, LoadCasesTellWhatActsInThem) {
+TEST(ReportText, ConstraintsShowComponentsNodesSystemAndValues) {
   RunReport report = SmallReport();
-  report.model.loadCases = {{"Pull", "NASTRAN", "Linear", {{"forces", {{1, "A"}, {2, "B"}}}, {"constraints", {{3, "C"}}}}},
-                            {"", "NASTRAN", "Linear", {}}};
+  report.model.constraints = {{1, "Node_Constraint_7", false, "123456", {}, false, 12, 0},
+                              {2, "", true, "13", {0.5, 9.0, -0.0625, 9.0, 9.0, 9.0}, false, 1, 10},
+                              {3, "EnforcedConstraint_8", true, "6", {}, true, 1200, 0},
+                              {4, "Node Constraint1", false, "", {}, false, 0, 0}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nConstraints         4\n"
+                                            "        Id  Kind      Name                  Components  Nodes  System  Values\n"
+                                            "         1  plain     Node_Constraint_7     123456         12       -  -\n"
+                                            "         2  enforced  (no name)             13              1      10  1: 0.5, 3: -0.0625\n"
+                                            "         3  enforced  EnforcedConstraint_8  6            1200       -  by field\n"
+                                            "         4  plain     Node Constraint1      -               0       -  -\n"));
+}
+
+TEST(ReportText, ForcesShowVectorsNodesAndSystem) {
+  RunReport report = SmallReport();
+  report.model.forces = {{1, "Lift", {0.0, 300.0, 400.0}, {}, false, 1, 10}, {2, "PointForce1", {1.0, 1.0, 1.0}, {}, true, 25, 0}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nForces and moments  2\n"
+                                            "        Id  Name         Nodes  System  Force          Moment\n"
+                                            "         1  Lift             1      10  (0, 300, 400)  (0, 0, 0)\n"
+                                            "         2  PointForce1     25       -  by field       by field\n"));
+}
+
+TEST(ReportText, BodyLoadsShowKindPartsAndVector) {
+  RunReport report = SmallReport();
+  report.model.bodyLoads = {{3, "", "gravity", {0.0, 0.0, -9810.0}, 6}, {14, "", "scaled rotation", {0.0, 1.0, 0.0}, 0}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nBody loads          2\n"
+                                            "        Id  Kind             Name       Parts  Vector\n"
+                                            "         3  gravity          (no name)      6  (0, 0, -9810)\n"
+                                            "        14  scaled rotation  (no name)      0  (0, 1, 0)\n"));
+}
+
+TEST(ReportText, LongTablesOfLoadsEndWithTheNumberOfTheRest) {
+  RunReport report = SmallReport();
+  for (std::int32_t id = 1; id <= 1040; ++id) {
+    report.model.forces.push_back({id, "F" + std::to_string(id), {}, {}, false, 1, 0});
+  }
+  for (std::int32_t id = 1; id <= 40; ++id) {
+    report.model.constraints.push_back({id, "C" + std::to_string(id), false, "1", {}, false, 1, 0});
+  }
 
   const std::string text = ReportText(report);
 
-  EXPECT_THAT(text, HasSubstr("\nLoad cases          2\n"));
-  EXPECT_EQ(LineWith(text, "Pull"), "Pull NASTRAN Linear: 2 forces, 1 constraints");
-  EXPECT_EQ(LineWith(text, "(no name)"), "(no name) NASTRAN Linear: empty");
+  EXPECT_THAT(text, HasSubstr("\nForces and moments  1040\n"));
+  EXPECT_EQ(LineWith(text, "F40 "), "40 F40 1 - (0, 0, 0) (0, 0, 0)");
+  EXPECT_THAT(text, HasSubstr("\n  ... and 1000 more, which the JSON report has\n"));
+  EXPECT_THAT(text, Not(HasSubstr("F41 ")));
+  EXPECT_EQ(LineWith(text, "C40 "), "40 plain C40 1 1 - -");
+  EXPECT_EQ(text.find("... and"), text.rfind("... and"));
+}
+
+TEST(ReportText, LoadCasesTellWhatActsInThemAndTheirParameters) {
+  RunReport report = SmallReport();
+  const ItemKind forces{"forces and moments", {{1, "A"}, {2, ""}, {3, "C"}, {4, "D"}, {5, "E"}}};
+  report.model.loadCases = {{"Pull", "NASTRAN", "LINEAR", {forces, {"constraints", {{6, "G"}}}}, {}},
+                            {"", "RADIOSS", "NORMALMODE", {}, {{"Number of Modes", 12.0}, {"Shift", {}}, {"Surface", "Hull"}}}};
+
+  const std::string text = ReportText(report);
+
+  EXPECT_THAT(text, HasSubstr("\nLoad cases          2\n"
+                              "  Pull  (NASTRAN, LINEAR)\n"
+                              "      forces and moments  5       A, id 2, C, D, ...\n"
+                              "      constraints         1       G\n"
+                              "  (no name)  (RADIOSS, NORMALMODE): empty\n"
+                              "      Number of Modes = 12\n"
+                              "      Shift = unset\n"
+                              "      Surface = Hull\n"
+                              "\n"));
+  EXPECT_THAT(text, Not(HasSubstr("in no load case")));
+}
+
+TEST(ReportText, WhatNoLoadCaseUsesStandsBelowThem) {
+  RunReport report = SmallReport();
+  report.model.loadCases = {{"Pull", "NASTRAN", "LINEAR", {{"constraints", {{6, "G"}}}}, {}}};
+  report.model.inNoLoadCase = {{"body loads", {{7, ""}}}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("      constraints         1       G\n"
+                                            "  in no load case\n"
+                                            "      body loads          1       id 7\n"));
+}
+
+TEST(ReportText, WithoutLoadCasesItIsSaidWhyThereMayBeNone) {
+  RunReport report = SmallReport();
+  report.model.inNoLoadCase = {{"body loads", {{7, ""}}}};
+
+  const std::string text = ReportText(report);
+
+  EXPECT_EQ(LineWith(text, "Load cases"), "Load cases none: the deck has no subcase with loads, or a single one that uses all of them");
+  EXPECT_THAT(text, Not(HasSubstr("load cases")));
+  EXPECT_THAT(text, Not(HasSubstr("in no load case")));
+}
+
+TEST(ReportText, ManyLoadCasesEndWithTheNumberOfTheRest) {
+  RunReport report = SmallReport();
+  for (int i = 1; i <= 43; ++i) {
+    report.model.loadCases.push_back({"Case " + std::to_string(i), "NASTRAN", "LINEAR", {}, {}});
+  }
+
+  const std::string text = ReportText(report);
+
+  EXPECT_THAT(text, HasSubstr("\n  Case 40  (NASTRAN, LINEAR): empty\n  ... and 3 more, which the JSON report has\n"));
+  EXPECT_THAT(text, Not(HasSubstr("Case 41")));
 }
 
 TEST(ReportText, TheLogIsToldInShort) {
@@ -258,7 +352,7 @@ TEST(ReportText, AMissingLogIsSaid) {
 
 TEST(ReportJson, HoldsWhatTheTextHolds) {
   RunReport report = SmallReport();
-  report.model.groups[1].kinds = {{"forces", {{4, "Pull \xFF"}}}};
+  report.model.groups[1].kinds = {{"pressures", {{4, "Pull \xFF"}}}};
 
   const nlohmann::json json = nlohmann::json::parse(ReportJson(report));
 
@@ -267,9 +361,9 @@ TEST(ReportJson, HoldsWhatTheTextHolds) {
   EXPECT_EQ(json["model"]["nodes"], 9);
   EXPECT_EQ(json["model"]["elements"]["triangles, 3 nodes"], 2);
   EXPECT_EQ(json["model"]["parts"][0]["name"], "Wing skin");
-  EXPECT_EQ(json["model"]["loads"]["forces"][0]["id"], 4);
+  EXPECT_EQ(json["model"]["other loads"]["pressures"][0]["id"], 4);
   // A byte that is no UTF-8 becomes the replacement character.
-  EXPECT_EQ(json["model"]["loads"]["forces"][0]["name"], "Pull \xEF\xBF\xBD");
+  EXPECT_EQ(json["model"]["other loads"]["pressures"][0]["name"], "Pull \xEF\xBF\xBD");
   EXPECT_EQ(json["log"]["nodesRead"], 9);
 }
 
@@ -297,6 +391,54 @@ TEST(ReportJson, PropertiesMaterialsAndSystemsHaveAllTheirValues) {
   EXPECT_EQ(model["coordinate systems"], nlohmann::json::parse(R"([
     {"id": 10, "kind": "cylindrical", "name": "CyliCoordinate10", "origin": [0.0, 30.5, -1.0], "nodes": 5},
     {"id": 4, "kind": "rectangular", "name": "", "origin": null, "nodes": 0}])"));
+}
+
+TEST(ReportJson, ConstraintsAndLoadsHaveAllTheirNumbers) {
+  RunReport report = SmallReport();
+  report.model.constraints = {{1, "Node_Constraint_7", false, "123456", {}, false, 12, 0},
+                              {2, "EnforcedConstraint_7", true, "13", {0.5, 0.0, -2.0, 0.0, 0.0, 0.0}, false, 1, 10},
+                              {3, "EnforcedConstraint_8", true, "6", {}, true, 2, 0}};
+  report.model.forces = {{4, "Lift", {0.0, 300.0, 400.0}, {0.0, 0.0, 2.5}, false, 1, 10},
+                         {5, "PointForce1", {1.0, 1.0, 1.0}, {}, true, 25, 0}};
+  report.model.bodyLoads = {{6, "", "gravity", {0.0, 0.0, -9810.0}, 6}};
+
+  const nlohmann::json model = nlohmann::json::parse(ReportJson(report))["model"];
+
+  EXPECT_EQ(model["constraints"], nlohmann::json::parse(R"([
+    {"id": 1, "name": "Node_Constraint_7", "enforced": false, "components": "123456", "values": null, "byField": false, "nodes": 12,
+     "system": 0},
+    {"id": 2, "name": "EnforcedConstraint_7", "enforced": true, "components": "13", "values": [0.5, 0.0, -2.0, 0.0, 0.0, 0.0],
+     "byField": false, "nodes": 1, "system": 10},
+    {"id": 3, "name": "EnforcedConstraint_8", "enforced": true, "components": "6", "values": null, "byField": true, "nodes": 2,
+     "system": 0}])"));
+  EXPECT_EQ(model["forces and moments"], nlohmann::json::parse(R"([
+    {"id": 4, "name": "Lift", "force": [0.0, 300.0, 400.0], "moment": [0.0, 0.0, 2.5], "byField": false, "nodes": 1, "system": 10},
+    {"id": 5, "name": "PointForce1", "force": null, "moment": null, "byField": true, "nodes": 25, "system": 0}])"));
+  EXPECT_EQ(model["body loads"],
+            nlohmann::json::parse(R"([{"id": 6, "name": "", "kind": "gravity", "vector": [0.0, 0.0, -9810.0], "parts": 6}])"));
+}
+
+TEST(ReportJson, LoadCasesAreCompleteHoweverLongTheyAre) {
+  RunReport report = SmallReport();
+  ItemKind forces{"forces and moments", {}};
+  for (std::int32_t id = 1; id <= 20; ++id) {
+    forces.items.push_back({id, "F" + std::to_string(id)});
+  }
+  report.model.loadCases = {{"Pull", "NASTRAN", "LINEAR", {forces}, {{"Number of Modes", 12.0}, {"Shift", {}}, {"Surface", "Hull"}}}};
+  report.model.inNoLoadCase = {{"body loads", {{301, ""}}}};
+  report.model.loadCases.resize(45, report.model.loadCases[0]);
+
+  const nlohmann::json model = nlohmann::json::parse(ReportJson(report))["model"];
+
+  ASSERT_EQ(model["load cases"].size(), 45u);
+  const nlohmann::json& pull = model["load cases"][0];
+  EXPECT_EQ(pull["name"], "Pull");
+  EXPECT_EQ(pull["solver"], "NASTRAN");
+  EXPECT_EQ(pull["analysis"], "LINEAR");
+  ASSERT_EQ(pull["members"]["forces and moments"].size(), 20u);
+  EXPECT_EQ(pull["members"]["forces and moments"][19], nlohmann::json::parse(R"({"id": 20, "name": "F20"})"));
+  EXPECT_EQ(pull["parameters"], nlohmann::json::parse(R"({"Number of Modes": 12.0, "Shift": null, "Surface": "Hull"})"));
+  EXPECT_EQ(model["in no load case"], nlohmann::json::parse(R"({"body loads": [{"id": 301, "name": ""}]})"));
 }
 
 }  // namespace
