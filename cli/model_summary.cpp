@@ -1,10 +1,8 @@
 #include "cli/model_summary.h"
 
-#include <algorithm>
 #include <map>
 #include <numeric>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "cli/display_text.h"
 #include "memory_host/memory_host.h"
@@ -36,68 +34,6 @@ constexpr std::array<const char*, elementTypes> typeNames = {
     "wedges, 15 nodes",
 };
 
-/// Under which heading a kind of entity stands, and what it is called.
-struct EntityWords {
-  ObjectType type;
-  const char* title;  ///< Null for those that have a table of their own.
-  const char* kind;
-  bool isForLoadCases;  ///< Acts through load cases.
-};
-
-/// In the order of the report.
-constexpr EntityWords entityWords[] = {
-    {ObjectType::Constraint, nullptr, "constraints", true},
-    {ObjectType::ForceLoad, nullptr, "forces and moments", true},
-    {ObjectType::BodyLoad, nullptr, "body loads", true},
-    {ObjectType::NodeSystemAssignment, "displacement systems", "assignments to nodes", false},
-    {ObjectType::Pressure, "other loads", "pressures", true},
-    {ObjectType::Pretension, "other loads", "pretensions", false},
-    {ObjectType::ThermalLoad, "other loads", "temperatures", true},
-    {ObjectType::Flux, "other loads", "heat fluxes", true},
-    {ObjectType::Convection, "other loads", "convections", true},
-    {ObjectType::Excitation, "other loads", "excitations", true},
-    {ObjectType::Mpc, "ties", "ties between nodes", true},
-    {ObjectType::RigidConnection, "connections", "rigid connections", false},
-    {ObjectType::Spring, "connections", "springs", false},
-    {ObjectType::Bush, "connections", "bushes", false},
-    {ObjectType::GapEntity, "connections", "gaps", false},
-    {ObjectType::Damping, "connections", "dampings", false},
-    {ObjectType::MassEntity, "masses", "masses", false},
-    {ObjectType::PlotEntity, "plot elements", "plot elements", false},
-    {ObjectType::EntitySet, "sets and surfaces", "sets", false},
-    {ObjectType::Surface, "sets and surfaces", "surfaces", false},
-};
-
-const EntityWords* FindWords(ObjectType type) {
-  const auto* words =
-      std::find_if(std::begin(entityWords), std::end(entityWords), [type](const EntityWords& held) { return held.type == type; });
-  return words == std::end(entityWords) ? nullptr : words;
-}
-
-/// Items by kind, with the kinds in order of first use.
-class KindList {
- public:
-  void Add(const std::string& kind, NamedItem item) {
-    auto found = std::find_if(kinds_.begin(), kinds_.end(), [&](const ItemKind& held) { return held.kind == kind; });
-    if (found == kinds_.end()) {
-      found = kinds_.insert(found, ItemKind{kind, {}});
-    }
-    found->items.push_back(std::move(item));
-  }
-
-  std::vector<ItemKind> Take() { return std::move(kinds_); }
-
- private:
-  std::vector<ItemKind> kinds_;
-};
-
-const char* KindOf(ObjectType type) {
-  const EntityWords* words = FindWords(type);
-  return words == nullptr ? memory::TypeName(type) : words->kind;
-}
-
-NamedItem ItemOf(const EntityInfo& entity) { return {entity.shownId, DisplayText(entity.name)}; }
-
 /// Headings of the entities, in the order of the table, empty ones too.
 void AddEntityGroups(const memory::MemoryBoundaryStore& store, std::vector<ItemGroup>& groups) {
   std::map<ObjectType, std::vector<NamedItem>> itemsByType;
@@ -105,7 +41,7 @@ void AddEntityGroups(const memory::MemoryBoundaryStore& store, std::vector<ItemG
     itemsByType[entity->object.type].push_back(ItemOf(*entity));
   }
   const std::size_t firstGroup = groups.size();
-  for (const EntityWords& words : entityWords) {
+  for (const EntityWords& words : AllEntityWords()) {
     if (words.title == nullptr) {
       continue;
     }
@@ -135,58 +71,6 @@ ItemGroup ElementGroups(const memory::MemoryGroupStore& store) {
     }
   }
   return {"element groups", kinds.Take()};
-}
-
-ParameterSummary Summarise(const memory::MemoryParameterSet::Parameter& parameter) {
-  ParameterSummary summary{DisplayText(parameter.name), {}};
-  if (!parameter.entity.empty()) {
-    summary.value = DisplayText(parameter.entity);
-  } else if (parameter.present) {
-    summary.value = parameter.value;
-  }
-  return summary;
-}
-
-/// The load cases, and in `used` all entities that one of them has.
-std::vector<LoadCaseSummary> LoadCases(const memory::MemoryBoundaryStore& store, std::unordered_set<const Entity*>* used) {
-  std::unordered_map<const Entity*, const EntityInfo*> infoOf;
-  for (const EntityInfo* entity : store.entities) {
-    infoOf.emplace(entity->entity, entity);
-  }
-  std::vector<LoadCaseSummary> summaries;
-  for (const memory::MemoryLoadCase& loadCase : store.loadCases) {
-    LoadCaseSummary& summary = summaries.emplace_back();
-    summary.name = DisplayText(loadCase.name);
-    summary.solver = DisplayText(loadCase.solver);
-    summary.analysis = DisplayText(loadCase.analysis);
-    KindList members;
-    for (const memory::MemoryLoadCase::Member& member : loadCase.members) {
-      used->insert(member.entity);
-      const auto found = infoOf.find(member.entity);
-      if (found != infoOf.end()) {
-        members.Add(KindOf(found->second->object.type), ItemOf(*found->second));
-      }
-    }
-    summary.members = members.Take();
-    for (const memory::MemoryParameterSet& set : loadCase.parameterSets) {
-      for (const memory::MemoryParameterSet::Parameter& parameter : set.parameters) {
-        summary.parameters.push_back(Summarise(parameter));
-      }
-    }
-  }
-  return summaries;
-}
-
-/// Entities that act through load cases and are not among the used ones.
-std::vector<ItemKind> InNoLoadCase(const memory::MemoryBoundaryStore& store, const std::unordered_set<const Entity*>& used) {
-  KindList kinds;
-  for (const EntityInfo* entity : store.entities) {
-    const EntityWords* words = FindWords(entity->object.type);
-    if (words != nullptr && words->isForLoadCases && used.count(entity->entity) == 0) {
-      kinds.Add(words->kind, ItemOf(*entity));
-    }
-  }
-  return kinds.Take();
 }
 
 std::vector<PartSummary> Parts(const MemoryHost& host) {
@@ -257,9 +141,8 @@ ModelSummary SummariseModel(const MemoryHost& host) {
   summary.groups = {FieldGroup(host.Curves())};
   AddEntityGroups(host.Boundary(), summary.groups);
   summary.groups.push_back(ElementGroups(host.Groups()));
-  std::unordered_set<const Entity*> used;
-  summary.loadCases = LoadCases(host.Boundary(), &used);
-  summary.inNoLoadCase = InNoLoadCase(host.Boundary(), used);
+  summary.loadCases = SummariseLoadCases(host);
+  summary.inNoLoadCase = FindInNoLoadCase(host);
   summary.isHandedOver = host.IsAttached();
   return summary;
 }

@@ -5,9 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <variant>
 #include <vector>
 
+#include "cli/entity_kinds.h"
+#include "cli/load_case_summary.h"
 #include "cli/load_summary.h"
 #include "cli/property_summary.h"
 #include "cli/system_summary.h"
@@ -38,36 +39,10 @@ struct PartSummary {
   std::vector<std::size_t> properties;  ///< Places of its properties in the model's list.
 };
 
-/// One thing with a name: a force, a set.
-struct NamedItem {
-  std::int32_t id = 0;
-  std::string name;
-};
-
-/// All things of one kind, "forces", in order of creation.
-struct ItemKind {
-  std::string kind;
-  std::vector<NamedItem> items;
-};
-
-/// A heading of the report, "loads", with the kinds of it that the model has.
+/// A heading of the report, "other loads", with the kinds of it that the model has.
 struct ItemGroup {
   std::string title;
   std::vector<ItemKind> kinds;
-};
-
-/// A parameter of a load case's analysis.
-struct ParameterSummary {
-  std::string name;
-  std::variant<std::monostate, double, std::string> value;  ///< Nothing when it was said not to be given.
-};
-
-struct LoadCaseSummary {
-  std::string name;
-  std::string solver;
-  std::string analysis;
-  std::vector<ItemKind> members;  ///< Kinds of the entities that act in it.
-  std::vector<ParameterSummary> parameters;
 };
 
 struct ModelSummary {

@@ -6,15 +6,14 @@
 
 #include "cli/exit_codes.h"
 #include "cli/report.h"
+#include "cli/report_lists.h"
 #include "cli/report_tables.h"
 
 namespace btz::cli {
 
 namespace {
 
-constexpr std::size_t labelWidth = 20;
 constexpr std::size_t widestLine = 100;
-constexpr std::size_t mostNames = 4;   ///< Names shown of one kind.
 constexpr std::size_t mostLines = 10;  ///< Lines of the log shown that the digest has no place for.
 
 std::string Join(const std::vector<std::string>& parts) { return fmt::format("{}", fmt::join(parts, ", ")); }
@@ -131,22 +130,6 @@ void AddProperties(TextReport& text, const ModelSummary& model) {
   }
 }
 
-/// The first names of a kind: "PointForce1, PointForce2, ...".
-std::string NamesText(const ItemKind& kind) {
-  std::vector<std::string> names;
-  for (const NamedItem& item : kind.items) {
-    if (names.size() == mostNames) {
-      names.push_back("...");
-      break;
-    }
-    names.push_back(item.name.empty() ? fmt::format("id {}", item.id) : item.name);
-  }
-  return Join(names);
-}
-
-/// Whether there is something that load cases could have and none has.
-bool HasUnusedEntities(const ModelSummary& model) { return !model.inNoLoadCase.empty(); }
-
 std::string Capitalised(std::string text) {
   if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') {
     text[0] = static_cast<char>(text[0] - 'a' + 'A');
@@ -177,51 +160,14 @@ void AddGroup(TextReport& text, const ItemGroup& group) {
   }
 }
 
-/// A line for each kind below a load case: "pressures  1  Pressure2".
-void AddMembers(TextReport& text, const std::vector<ItemKind>& kinds) {
-  for (const ItemKind& kind : kinds) {
-    text.Line("      {:<{}}{:<6}  {}", kind.kind, labelWidth, kind.items.size(), NamesText(kind));
-  }
-}
-
-std::string ParameterText(const ParameterSummary& parameter) {
-  if (const double* number = std::get_if<double>(&parameter.value)) {
-    return fmt::format("{} = {:g}", parameter.name, *number);
-  }
-  const std::string* name = std::get_if<std::string>(&parameter.value);
-  return fmt::format("{} = {}", parameter.name, name == nullptr ? "unset" : *name);
-}
-
-void AddLoadCase(TextReport& text, const LoadCaseSummary& loadCase) {
-  text.Line("  {}  ({}, {}){}", loadCase.name.empty() ? "(no name)" : loadCase.name, loadCase.solver, loadCase.analysis,
-            loadCase.members.empty() ? ": empty" : "");
-  AddMembers(text, loadCase.members);
-  for (const ParameterSummary& parameter : loadCase.parameters) {
-    text.Line("      {}", ParameterText(parameter));
-  }
-}
-
 void AddLoadCases(TextReport& text, const ModelSummary& model) {
-  const std::vector<LoadCaseSummary>& loadCases = model.loadCases;
-  if (loadCases.empty()) {
-    if (HasUnusedEntities(model)) {
-      text.Blank();
-      text.Heading("Load cases", "none: the deck has no subcase with loads, or a single one that uses all of them");
-    }
-    return;
-  }
-  text.Blank();
-  text.Heading("Load cases", loadCases.size());
-  const std::size_t shown = std::min(loadCases.size(), mostRows);
-  for (std::size_t i = 0; i < shown; ++i) {
-    AddLoadCase(text, loadCases[i]);
-  }
-  if (shown < loadCases.size()) {
-    text.Append(RestLine(loadCases.size() - shown));
-  }
-  if (HasUnusedEntities(model)) {
-    text.Line("  in no load case");
-    AddMembers(text, model.inNoLoadCase);
+  if (!model.loadCases.empty()) {
+    text.Blank();
+    text.Heading("Load cases", model.loadCases.size());
+    text.Append(LoadCasesText(model));
+  } else if (!model.inNoLoadCase.empty()) {
+    text.Blank();
+    text.Heading("Load cases", "none: the deck has no subcase with loads, or a single one that uses all of them");
   }
 }
 
@@ -243,7 +189,7 @@ void AddMissing(TextReport& text, const ModelSummary& model) {
   for (const ItemGroup& group : model.groups) {
     note(group.title.c_str(), group.kinds.empty());
   }
-  note("load cases", model.loadCases.empty() && !HasUnusedEntities(model));
+  note("load cases", model.loadCases.empty() && model.inNoLoadCase.empty());
   if (!missing.empty()) {
     text.Blank();
     text.Heading("Not in the model", JoinWrapped(missing));
