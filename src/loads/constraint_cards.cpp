@@ -328,7 +328,8 @@ void ReadSpc1Card(MeshModel* model, CardCursor* cursor, IndexedList* spc1List) {
   std::int32_t last = first;
   if (thru) {
     Advance(cursor, static_cast<std::size_t>(width));
-    // Required: in the large form 20 columns more, which is where the continuation line's marker ends.
+    // Required: in the large form 20 characters more, over the mark, the line end and the marker of the next line. That is into the field itself,
+    // so its number has to stand at the right.
     Advance(cursor, large ? 20 : 0);
     ReadIntField(width, cursor, &last);
   }
