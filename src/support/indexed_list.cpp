@@ -8,8 +8,11 @@ constexpr std::uint32_t fewestSlots = 64;
 
 /// Slot of `id`, or the free slot where it belongs. The table always has a free one.
 IndexedSlot* SlotOf(IndexedSlot* slots, std::uint32_t slotCount, std::int64_t id) {
-  // 2^64 divided by the golden ratio spreads ids that differ by a common step.
-  const std::uint64_t spread = static_cast<std::uint64_t>(id) * 0x9E3779B97F4A7C15u;
+  // 2^64 divided by the golden ratio spreads ids that differ by a common step. Twice, because the step of a pair's first number may be a multiple
+  // of 2^32 times a power of two, which one product leaves without low bits.
+  constexpr std::uint64_t factor = 0x9E3779B97F4A7C15u;
+  std::uint64_t spread = static_cast<std::uint64_t>(id) * factor;
+  spread = (spread ^ (spread >> 32)) * factor;
   auto at = static_cast<std::uint32_t>(spread >> 32);
   while (true) {
     IndexedSlot* slot = &slots[at & (slotCount - 1)];

@@ -149,5 +149,44 @@ TEST_F(IndexedListTest, AWalkVisitsWhatItAppends) {
   EXPECT_EQ(Of(1), (Numbers{1, 2, 3, 4}));
 }
 
+TEST_F(IndexedListTest, APrependedRecordIsTheFirstInBothOrders) {
+  IndexedListPrepend(&list, 7, Address(1));
+  IndexedListPrepend(&list, 8, Address(2));
+  IndexedListPrepend(&list, 7, Address(3));
+  EXPECT_EQ(All(), (Numbers{3, 2, 1}));
+  EXPECT_EQ(Of(7), (Numbers{3, 1}));
+  EXPECT_EQ(Of(8), (Numbers{2}));
+  EXPECT_EQ(list.size, 3);
+  EXPECT_EQ(list.last->record, Address(1));
+}
+
+TEST_F(IndexedListTest, RecordsMayComeInAtBothEnds) {
+  IndexedListAppend(&list, 7, Address(1));
+  IndexedListPrepend(&list, 7, Address(2));
+  IndexedListAppend(&list, 7, Address(3));
+  IndexedListPrepend(&list, 8, Address(4));
+  EXPECT_EQ(All(), (Numbers{4, 2, 1, 3}));
+  EXPECT_EQ(Of(7), (Numbers{2, 1, 3}));
+}
+
+TEST_F(IndexedListTest, PairsAreFoundByBothNumbers) {
+  std::size_t number = 0;
+  const std::vector<std::int32_t> parts = {INT_MIN, -1, 0, 1, 1 << 20, INT_MAX};
+  for (const std::int32_t first : parts) {
+    for (const std::int32_t second : parts) {
+      IndexedListPrepend(&list, PairId(first, second), Address(++number));
+    }
+  }
+  number = 0;
+  for (const std::int32_t first : parts) {
+    for (const std::int32_t second : parts) {
+      const IndexedCell* cell = IndexedListFind(&list, PairId(first, second));
+      ASSERT_NE(cell, nullptr);
+      EXPECT_EQ(cell->record, Address(++number));
+      EXPECT_EQ(cell->nextOfId, nullptr);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace btz
