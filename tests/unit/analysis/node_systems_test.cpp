@@ -69,6 +69,33 @@ TEST_F(NodeSystems, MissingNodesAreLeftOut) {
                           "NodeSystemAssignment#1.SetCoordinateSystem(10)", "NodeSystemAssignment#1.SetNodes([n1])"));
 }
 
+TEST_F(NodeSystems, NodesFarApartShareBuckets) {
+  MakeNodes(9);
+  const double position[3] = {};
+  model->CreateNode(50002, position, 0);
+  model->CreateNode(50006, position, 0);
+  AddSystem(10);
+  // 50,001 buckets: 50,002 stands in that of 1, 50,006 in that of 5.
+  for (const std::int32_t id : {50006, 9, 5, 50002}) {
+    AddNode(id, 10);
+  }
+  Assign();
+  EXPECT_EQ(Calls().back(), "NodeSystemAssignment#1.SetNodes([n50002, n50006, n5, n9])");
+}
+
+TEST_F(NodeSystems, ASystemWhoseNodesAreAllUsedIsPassedOver) {
+  MakeNodes(2);
+  AddSystem(10);
+  AddSystem(20);
+  AddNode(1, 10)->used = 1;
+  const GridCdRecord* taken = AddNode(2, 20);
+  Assign();
+  EXPECT_THAT(Calls(),
+              ElementsAre("BoundaryStore.CreateNodeSystemAssignment() -> NodeSystemAssignment#1", "NodeSystemAssignment#1.SetKind(1)",
+                          "NodeSystemAssignment#1.SetCoordinateSystem(20)", "NodeSystemAssignment#1.SetNodes([n2])"));
+  EXPECT_EQ(taken->used, 1);
+}
+
 TEST_F(NodeSystems, ASecondSystemOfTheSameIdFindsNoNode) {
   MakeNodes(1);
   AddSystem(10);
