@@ -80,7 +80,7 @@ TEST_F(SpcCardTest, AFewBlanksBehindTheValueTakeTheNextLine) {
 }
 
 TEST_F(SpcCardTest, ACarriageReturnBehindAFullValueIsNoSecondNode) {
-  EXPECT_EQ(ReadSpc(Small("SPC|1|5|1|0.5", "\r\n") + next), next);
+  EXPECT_EQ(ReadSpc(Small("SPC|1|5|1|0.5", "\r\n") + "NEXT8901\n"), "NEXT8901\n");
   EXPECT_THAT(SpcRecords(), ElementsAre("set 1 node 5 SPC 1 [0.5 - - - - -]"));
 }
 
