@@ -94,16 +94,14 @@ void MemoryBoundaryStore::FindEntity(const wchar_t* name, Entity** out, std::int
   if (!call.HasRoom(out) || call.IsRefused(out)) {
     return;
   }
-  const std::wstring wanted = CopyOf(name);
-  for (EntityInfo* info : entities) {
-    if (info->type == typeCode && info->name == wanted) {
-      *out = info->entity;
-      info->object.HandOut();
-      call.Gave(Object{*out});
-      return;
-    }
+  EntityInfo* found = object.context.names.Find(CopyOf(name), typeCode);
+  if (found == nullptr) {
+    call.Withhold(out);
+    return;
   }
-  call.Withhold(out);
+  *out = found->entity;
+  found->object.HandOut();
+  call.Gave(Object{*out});
 }
 
 void MemoryBoundaryStore::GetEntitiesOfType(std::int32_t type, PooledList* out) {

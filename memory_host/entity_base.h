@@ -100,7 +100,7 @@ class EntityBase : public Interface {
 
   void TakeName(const wchar_t* name) {
     Told("SetName", name);
-    info.name = CopyOf(name);
+    info.object.context.names.Rename(&info, CopyOf(name));
   }
 
   void TakeParts(const char* operation, PooledList* list) {

@@ -20,6 +20,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "memory_host/entity_names.h"
 #include "memory_host/mesh_records.h"
 #include "memory_host/object_types.h"
 #include "memory_host/refusal_script.h"
@@ -68,6 +69,7 @@ class HostContext {
   std::function<void(const std::string& message)> faultHandler;       ///< Of a strict host. May return: the call then goes on safely.
   bool handedOver = false;                                            ///< HostProject::AttachModel was called.
   MeshRecords mesh;
+  EntityNames names;
   ListCellPool listPool;  ///< Cells of all lists of the host.
 
   /// The object that was registered under `address`, or null.

@@ -50,6 +50,25 @@ TEST_F(HostStores, FindEntityTakesTheFirstOfTypeAndName) {
   EXPECT_EQ(missing, nullptr);
 }
 
+TEST_F(HostStores, FindEntityTakesTheFirstMadeWhateverWasNamedFirst) {
+  Constraint* first = MakeConstraint(L"Other");
+  MakeConstraint(L"Fix");
+  first->SetName(L"Fix");
+  Entity* found = nullptr;
+  boundary->FindEntity(L"Fix", &found, 0, 6);
+  EXPECT_EQ(found, first);
+}
+
+TEST_F(HostStores, FindEntityForgetsAnOldName) {
+  Constraint* renamed = MakeConstraint(L"Fix");
+  renamed->SetName(L"Fixed");
+  Entity* found = nullptr;
+  boundary->FindEntity(L"Fix", &found, 0, 6);
+  EXPECT_EQ(found, nullptr);
+  boundary->FindEntity(L"Fixed", &found, 0, 6);
+  EXPECT_EQ(found, renamed);
+}
+
 TEST_F(HostStores, EntitiesOfATypeAreAppended) {
   Entity* first = MakeConstraint(L"a");
   MakeSet(L"b", 0);
