@@ -106,7 +106,7 @@ class IgnoringProject : public HostProject {
   void AttachModel(MeshModel* /*model*/, std::int32_t /*mode*/) override {}
 };
 
-class IgnoringBoundaryStore final : public BoundaryStore {
+class IgnoringBoundaryStore : public BoundaryStore {
  public:
   void GetEntities(PooledList** /*out*/) override {}
   std::int32_t CreatePressure(Pressure** /*out*/) override { return 0; }
@@ -147,7 +147,7 @@ class IgnoringMaterialStore : public MaterialStore {
   void Commit() override {}
 };
 
-class IgnoringCurveStore final : public CurveStore {
+class IgnoringCurveStore : public CurveStore {
  public:
   void GetField(std::int32_t /*id*/, Field** /*out*/) override {}
   void GetCurve(std::int32_t /*id*/, Curve** /*out*/) override {}
