@@ -103,7 +103,7 @@ void CreateForceOfRun(BoundaryStore* boundary, const ForceNodeRecord& pattern, P
 void CollectRun(const IndexedList& byLoad, const ForceNodeRecord& pattern, PooledList* run) {
   for (const IndexedCell* cell = IndexedListFind(&byLoad, LoadKey(pattern)); cell != nullptr; cell = cell->nextOfId) {
     auto* node = static_cast<ForceNodeRecord*>(cell->record);
-    if (node == &pattern || (node->isGrouped == 0 && HaveEqualLoads(*node, pattern))) {
+    if (node == &pattern || HaveEqualLoads(*node, pattern)) {
       node->isGrouped = 1;
       ListAppend(run, node->node);
     }
