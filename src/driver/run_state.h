@@ -83,7 +83,7 @@ struct RunLists {
   PooledList gridCp;             ///< GridCpRecord.
   IndexedList spc1;              ///< Spc1Record by set and components, the newest first.
   IndexedList materials;         ///< MaterialLink by deck id.
-  IndexedList spc;               ///< SpcRecord by node and set, the newest first.
+  IndexedList spc;               ///< SpcRecord by set and node, the newest first.
   PooledList tempd;
   PooledList pelas;
   PooledList pgap;

@@ -111,7 +111,7 @@ class SpcCard {
 
  private:
   SpcRecord* Find(std::int32_t nodeId) const {
-    const IndexedCell* cell = IndexedListFind(list_, PairId(nodeId, setId_));
+    const IndexedCell* cell = IndexedListFind(list_, PairId(setId_, nodeId));
     return cell == nullptr ? nullptr : static_cast<SpcRecord*>(cell->record);
   }
 
@@ -132,7 +132,7 @@ class SpcCard {
     record->components = group.components;
     record->isSpc = isSpc_;
     SetComponents(record, group);
-    IndexedListPrepend(list_, PairId(group.nodeId, setId_), record);
+    IndexedListPrepend(list_, PairId(setId_, group.nodeId), record);
   }
 
   void Merge(SpcRecord* record, const SpcGroup& group) {

@@ -42,7 +42,7 @@ inline IndexedList NodeEnforcedValueTable;  ///< NodeEnforcedValue by node id.
 /// Keeps the first value for a node; a later one changes nothing.
 void EnterNodeEnforcedValue(std::int32_t nodeId, double value);
 
-/// Reads the `SPC` or `SPCD` card at the cursor into `spcList`, the newest record first (SpcRecord by node and set). Records of one node and set
+/// Reads the `SPC` or `SPCD` card at the cursor into `spcList`, the newest record first (SpcRecord by set and node). Records of one node and set
 /// merge. Only the fixed forms are read: of any other, and of a line with an equals sign, the keyword is stepped over.
 void ReadSpcCard(CardCursor* cursor, IndexedList* spcList);
 

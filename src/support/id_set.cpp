@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/bucket_order.h"
+
 namespace btz {
 
 namespace {
@@ -16,11 +18,14 @@ struct InsertedId {
   std::int32_t number;
 };
 
+/// Buckets of the table after a rebuilding at `held` ids; 0: before the first.
+std::int32_t BucketCountAt(std::int32_t held) { return held > mostWithoutRebuilding ? (held + 1) | 1 : firstBucketCount; }
+
 /// Whether `a` stands before `b` in the table whose last rebuilding, at `rebuiltAt` ids, was followed by at most one insertion. Rebuilding keeps the order
 /// within a bucket, so ids of one bucket stand as in the table before; an id inserted since stands behind.
 bool StandsBefore(const InsertedId& a, const InsertedId& b, std::int32_t rebuiltAt) {
   for (std::int32_t held = rebuiltAt; held > mostWithoutRebuilding; --held) {
-    const std::int32_t bucketCount = (held + 1) | 1;
+    const std::int32_t bucketCount = BucketCountAt(held);
     if (a.id % bucketCount != b.id % bucketCount) {
       return a.id % bucketCount < b.id % bucketCount;
     }
@@ -32,6 +37,18 @@ bool StandsBefore(const InsertedId& a, const InsertedId& b, std::int32_t rebuilt
     return a.id % firstBucketCount < b.id % firstBucketCount;
   }
   return a.number < b.number;
+}
+
+/// Brings the ids of each bucket, which stand together, into their order.
+void SortWithinBuckets(HeapArray<InsertedId*>* sorted, std::int32_t bucketCount, std::int32_t rebuiltAt) {
+  InsertedId** const end = sorted->end();
+  for (InsertedId** first = sorted->begin(); first != end;) {
+    const std::int32_t bucket = (*first)->id % bucketCount;
+    InsertedId** const last =
+        std::find_if(first, end, [bucket, bucketCount](const InsertedId* entry) { return entry->id % bucketCount != bucket; });
+    std::sort(first, last, [rebuiltAt](const InsertedId* a, const InsertedId* b) { return StandsBefore(*a, *b, rebuiltAt); });
+    first = last;
+  }
 }
 
 }  // namespace
@@ -61,16 +78,20 @@ void IdSetInsert(IdSet* set, std::int32_t id) {
 
 void IdSetOrder(const IdSet* set, HeapArray<std::int32_t>* order) {
   HeapArray<InsertedId> ids(IdSetCount(set));
-  if (ids.size() != order->size()) {
+  HeapArray<InsertedId*> sorted(IdSetCount(set));
+  if (ids.size() != order->size() || sorted.size() != order->size()) {
     return;
   }
-  std::int32_t number = 0;
-  for (const IndexedCell* cell = set->ids.first; cell != nullptr && static_cast<std::size_t>(number) < ids.size(); cell = cell->next) {
-    ids[static_cast<std::size_t>(number)] = {static_cast<std::int32_t>(cell->id), number};
-    ++number;
+  std::size_t count = 0;
+  for (const IndexedCell* cell = set->ids.first; cell != nullptr && count < ids.size(); cell = cell->next) {
+    ids[count] = {static_cast<std::int32_t>(cell->id), static_cast<std::int32_t>(count)};
+    sorted[count] = &ids[count];
+    ++count;
   }
-  std::sort(ids.begin(), ids.end(), [set](const InsertedId& a, const InsertedId& b) { return StandsBefore(a, b, set->rebuiltAt); });
-  std::transform(ids.begin(), ids.end(), order->begin(), [](const InsertedId& entry) { return entry.id; });
+  const std::int32_t bucketCount = BucketCountAt(set->rebuiltAt);
+  SortByBucket(&sorted, bucketCount, [](const InsertedId* entry) { return entry->id; });
+  SortWithinBuckets(&sorted, bucketCount, set->rebuiltAt);
+  std::transform(sorted.begin(), sorted.end(), order->begin(), [](const InsertedId* entry) { return entry->id; });
 }
 
 void IdSetClear(IdSet* set) {

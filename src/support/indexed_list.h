@@ -18,6 +18,7 @@ struct IndexedCell {
 
 /// Slot of the index. A free slot has no first cell.
 struct IndexedSlot {
+  std::int64_t id;
   IndexedCell* first;
   IndexedCell* last;
 };
