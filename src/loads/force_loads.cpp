@@ -24,14 +24,18 @@ struct ForceStage {
   ListCellPool cells;
 };
 
-/// The sets, or the nodes of a set, in the order of a table by id.
-HeapArray<ForceSetRecord*>* SortSets(HeapArray<ForceSetRecord*>* sets) {
+/// Fills `sets` with all sets, in the order of a table by id.
+void SortSets(HeapArray<ForceSetRecord*>* sets) {
   std::size_t count = 0;
-  WalkIndexedList<ForceSetRecord>(&ForceSetTable, [&](ForceSetRecord* set) { (*sets)[count++] = set; });
+  WalkIndexedList<ForceSetRecord>(&ForceSetTable, [&](ForceSetRecord* set) {
+    if (count < sets->size()) {
+      (*sets)[count++] = set;
+    }
+  });
   SortByBucket(sets, tableBucketCount, [](const ForceSetRecord* set) { return set->setId; });
-  return sets;
 }
 
+/// Fills `nodes`, which has room for them, with the nodes of a set, in the order of a table by id.
 void SortNodes(const ForceSetRecord& set, HeapArray<ForceNodeRecord*>* nodes) {
   std::size_t count = 0;
   for (ForceNodeRecord* node = set.firstNode; node != nullptr; node = node->next) {
@@ -185,7 +189,8 @@ void CreateForceLoads(BoundaryStore* boundary, CurveStore* curves, std::int32_t*
   ForceStage stage{boundary, curves, pointForceNumber, {}};
   ListCellPoolInit(&stage.cells);
   HeapArray<ForceSetRecord*> sets(static_cast<std::size_t>(ForceSetTable.size));
-  for (ForceSetRecord* set : *SortSets(&sets)) {
+  SortSets(&sets);
+  for (ForceSetRecord* set : sets) {
     CreateForcesOfSet(&stage, set);
   }
   ListCellPoolReset(&stage.cells);
