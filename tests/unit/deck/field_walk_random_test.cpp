@@ -11,6 +11,7 @@
 #include "deck/card_boundaries.h"
 #include "deck/deck_text.h"
 #include "deck/plain_fields.h"
+#include "tests/unit/deck/random_lines.h"
 
 namespace btz {
 namespace {
@@ -145,21 +146,7 @@ std::string RandomLines(std::mt19937& random) {
                                "FORCE   ", "CHEXA   ", "GRID*   ", "$ note  ", "FORCE*  ", "1       "};
   const char* const fields[] = {"       1", "12      ", "        ", "     0.5",         "   1.5+3", "  1.E+04", "    THRU",
                                 "+A1     ", "-4      ", "       0", "1234567812345678", "  $    *", "  a b c "};
-  std::string text;
-  for (std::uint32_t line = 0; line < 1 + random() % 5; ++line) {
-    std::string whole = line == 0 ? "" : heads[random() % std::size(heads)];
-    for (std::uint32_t field = random() % 9; field > 0; --field) {
-      whole += fields[random() % std::size(fields)];
-    }
-    if (random() % 3 == 0) {
-      whole.resize(random() % (whole.size() + 1));
-    }
-    text += whole + (random() % 4 == 0 ? "\r\n" : "\n");
-  }
-  if (random() % 4 == 0) {
-    text.resize(random() % (text.size() + 1));
-  }
-  return text;
+  return JoinRandomLines(random, heads, fields);
 }
 
 TEST(FieldWalkRandom, FillsTheSameSlotsAndStopsAtTheSamePlace) {

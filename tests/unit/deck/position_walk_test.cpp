@@ -12,6 +12,7 @@
 #include "deck/deck_text.h"
 #include "deck/plain_fields.h"
 #include "deck/position_walk.h"
+#include "tests/unit/deck/random_lines.h"
 
 namespace btz {
 namespace {
@@ -236,21 +237,7 @@ std::string RandomLines(std::mt19937& random) {
   const char* const fields[] = {"1.0     ", "     0.5", "        ", "0.0     ",         "   1.5+3",     "1.5E+3  ", "1.0E5   ",
                                 "THRU    ", "+A1     ", "+1      ", "*       ",         "-4.5    ",     "0.0\n",    "0\r\n",
                                 "2.5\n",    "1.5\r\n",  "  a b   ", "1.25            ", "0           *"};
-  std::string text;
-  for (std::uint32_t line = 0; line < 1 + random() % 5; ++line) {
-    std::string whole = line == 0 ? "" : heads[random() % std::size(heads)];
-    for (std::uint32_t field = random() % 9; field > 0; --field) {
-      whole += fields[random() % std::size(fields)];
-    }
-    if (random() % 3 == 0) {
-      whole.resize(random() % (whole.size() + 1));
-    }
-    text += whole + (random() % 4 == 0 ? "\r\n" : "\n");
-  }
-  if (random() % 4 == 0) {
-    text.resize(random() % (text.size() + 1));
-  }
-  return text;
+  return JoinRandomLines(random, heads, fields);
 }
 
 TEST(PositionWalkRandom, TakesTheSameValuesAndMarksAndStopsAtTheSamePlace) {

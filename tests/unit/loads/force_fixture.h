@@ -48,6 +48,26 @@ inline std::vector<std::string> ExpectedField(const std::string& number, const s
           object + ".SetRowCount(" + rowCount + ")", object + ".SetRows([" + rows + "])"};
 }
 
+/// Reads a card cut behind each byte from `first` on.
+template <typename Read>
+void ReadCutAnywhere(const std::string& card, std::size_t first, Read read) {
+  for (std::size_t length = first; length <= card.size(); ++length) {
+    read(card.substr(0, length));
+  }
+}
+
+/// Reads a card with each byte from `first` on changed to what bends a walk, and to `other`.
+template <typename Read>
+void ReadChangedAnywhere(const std::string& card, std::size_t first, char other, Read read) {
+  for (std::size_t at = first; at < card.size(); ++at) {
+    for (const char changed : {'\n', '\0', '*', '+', 'E', '9', ',', other}) {
+      std::string text = card;
+      text[at] = changed;
+      read(text);
+    }
+  }
+}
+
 /// The calls one after the other.
 inline std::vector<std::string> Joined(const std::vector<std::vector<std::string>>& parts) {
   std::vector<std::string> all;

@@ -44,6 +44,17 @@ class LoadsTest : public MeshTest {
  protected:
   using MeshTest::MeshTest;
 
+  /// The calls since the last question that have `part` in them.
+  std::vector<std::string> CallsWith(std::string_view part) {
+    std::vector<std::string> found;
+    for (const std::string& call : Calls()) {
+      if (call.find(part) != std::string::npos) {
+        found.push_back(call);
+      }
+    }
+    return found;
+  }
+
   /// Makes a node without a trace.
   void MakeNode(std::int32_t id, double x = 0.0, double y = 0.0, double z = 0.0) {
     const std::string before = trace;

@@ -12,16 +12,6 @@ class Spc1ConstraintTest : public LoadsTest {
   Spc1ConstraintTest() { MakeNodes(9); }
 
   void Create() { CreateSpc1Constraints(boundary, &run.lists.spc1, &run.gridCdTable); }
-
-  std::vector<std::string> CallsWith(std::string_view part) {
-    std::vector<std::string> found;
-    for (const std::string& call : Calls()) {
-      if (call.find(part) != std::string::npos) {
-        found.push_back(call);
-      }
-    }
-    return found;
-  }
 };
 
 TEST_F(Spc1ConstraintTest, WithoutRecordsNothingHappens) {

@@ -16,17 +16,6 @@ class SpcConstraintTest : public LoadsTest {
   }
 
   void Create() { CreateSpcConstraints(model, boundary, &run.lists.spc, &run.gridCdTable, host.GetCurveStore()); }
-
-  /// The calls of the stage that have `part` in them.
-  std::vector<std::string> CallsWith(std::string_view part) {
-    std::vector<std::string> found;
-    for (const std::string& call : Calls()) {
-      if (call.find(part) != std::string::npos) {
-        found.push_back(call);
-      }
-    }
-    return found;
-  }
 };
 
 TEST_F(SpcConstraintTest, WithoutRecordsNothingHappens) {
