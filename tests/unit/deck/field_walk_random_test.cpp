@@ -11,7 +11,7 @@
 #include "deck/card_boundaries.h"
 #include "deck/deck_text.h"
 #include "deck/plain_fields.h"
-#include "tests/unit/deck/random_lines.h"
+#include "deck/random_lines.h"
 
 namespace btz {
 namespace {
@@ -146,7 +146,7 @@ std::string RandomLines(std::mt19937& random) {
                                "FORCE   ", "CHEXA   ", "GRID*   ", "$ note  ", "FORCE*  ", "1       "};
   const char* const fields[] = {"       1", "12      ", "        ", "     0.5",         "   1.5+3", "  1.E+04", "    THRU",
                                 "+A1     ", "-4      ", "       0", "1234567812345678", "  $    *", "  a b c "};
-  return JoinRandomLines(random, heads, fields);
+  return test::JoinRandomLines(random, heads, fields);
 }
 
 TEST(FieldWalkRandom, FillsTheSameSlotsAndStopsAtTheSamePlace) {

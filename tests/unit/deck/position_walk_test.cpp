@@ -12,7 +12,7 @@
 #include "deck/deck_text.h"
 #include "deck/plain_fields.h"
 #include "deck/position_walk.h"
-#include "tests/unit/deck/random_lines.h"
+#include "deck/random_lines.h"
 
 namespace btz {
 namespace {
@@ -237,7 +237,7 @@ std::string RandomLines(std::mt19937& random) {
   const char* const fields[] = {"1.0     ", "     0.5", "        ", "0.0     ",         "   1.5+3",     "1.5E+3  ", "1.0E5   ",
                                 "THRU    ", "+A1     ", "+1      ", "*       ",         "-4.5    ",     "0.0\n",    "0\r\n",
                                 "2.5\n",    "1.5\r\n",  "  a b   ", "1.25            ", "0           *"};
-  return JoinRandomLines(random, heads, fields);
+  return test::JoinRandomLines(random, heads, fields);
 }
 
 TEST(PositionWalkRandom, TakesTheSameValuesAndMarksAndStopsAtTheSamePlace) {
