@@ -8,6 +8,8 @@ namespace btz {
 namespace {
 
 using test::Large;
+using test::ReadChangedAnywhere;
+using test::ReadCutAnywhere;
 using test::Reals;
 using test::RealsOf;
 using test::Small;
