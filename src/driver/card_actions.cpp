@@ -14,18 +14,13 @@
 #include "mesh/shells.h"
 #include "mesh/solids.h"
 #include "properties/property_cards.h"
+#include "sets/entity_sets.h"
+#include "sets/surfaces.h"
 #include "support/text.h"
 
 namespace btz {
 
 namespace {
-
-// Readers of the three forms of sets, behind their common name handling.
-constexpr CardReader setGroupCard = NotBuilt;
-constexpr CardReader setListCard = NotBuilt;
-constexpr CardReader surfaceCard = NotBuilt;
-
-std::int32_t RunIfBuilt(CardReader reader, CardContext& context) { return reader == NotBuilt ? 0 : reader(context); }
 
 /// Takes the line at the cursor.
 void TakeLine(CardContext& context, char (&line)[deckLineCapacity]) { ReadDeckLine(&context.file.cursor, line, sizeof(line)); }
@@ -240,17 +235,29 @@ std::int32_t RforceCard(CardContext& context) {
   return 0;
 }
 
+std::int32_t Pload4Card(CardContext& context) {
+  ReadPload4Card(&context.file.cursor, context.run.model, context.run.pressureReference);
+  return 0;
+}
+
 std::int32_t SetCard(CardContext& context) {
   NameSet(context);
   char line[deckLineCapacity];
   CardCursor unmoved = context.file.cursor;
   ReadDeckLine(&unmoved, line, sizeof(line));
-  return RunIfBuilt(NamesItsMembers(line) ? setGroupCard : setListCard, context);
+  RunState& run = context.run;
+  if (NamesItsMembers(line)) {
+    ReadSetGroupCard(&context.file, run.model, run.host.boundary, run.setName);
+  } else {
+    ReadSetListCard(&context.file, run.model, run.host.boundary, run.setName);
+  }
+  return 0;
 }
 
 std::int32_t SurfCard(CardContext& context) {
   NameSet(context);
-  return RunIfBuilt(surfaceCard, context);
+  ReadSurfCard(&context.file, context.run.model, context.run.host.boundary, context.run.setName);
+  return 0;
 }
 
 }  // namespace btz

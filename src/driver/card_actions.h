@@ -50,6 +50,7 @@ std::int32_t ForceCard(CardContext& context);   ///< With the name in the commen
 std::int32_t MomentCard(CardContext& context);  ///< Likewise.
 std::int32_t GravCard(CardContext& context);
 std::int32_t RforceCard(CardContext& context);
+std::int32_t Pload4Card(CardContext& context);
 std::int32_t SetCard(CardContext& context);
 std::int32_t SurfCard(CardContext& context);
 

@@ -9,6 +9,7 @@
 #include "loads/constraints.h"
 #include "loads/convection.h"
 #include "loads/forces.h"
+#include "loads/load_parts.h"
 #include "loads/load_sets.h"
 #include "loads/pressures.h"
 #include "loads/temperatures.h"
@@ -65,7 +66,6 @@ constexpr TableRecords tablesBeforeParts[] = {
 };
 
 constexpr TableRecords tablesOfLoads[] = {
-    {&PressureSetTable, ReleaseMemory},
     {&RbarTable, ReleaseMemory},
 };
 
@@ -127,6 +127,7 @@ void FreeIndexedTables() {
   for (IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable}) {
     FreeIndexedList(table, ReleaseMemory);
   }
+  FreeIndexedList(&PressureSetTable, FreePressureSetRecord);
   FreeIndexedList(&LoadSetTable, FreeLoadSetRecord);
 }
 

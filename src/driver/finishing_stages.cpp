@@ -8,6 +8,7 @@
 #include "driver/split_faces.h"
 #include "loads/constraint_stages.h"
 #include "loads/force_loads.h"
+#include "loads/pressure_loads.h"
 #include "loads/pressures.h"
 #include "materials/material_transfer.h"
 #include "mesh/gaps.h"
@@ -39,7 +40,7 @@ bool HasMaterialNames(const RunState& /*run*/) { return HashCount(&MaterialComme
 
 bool HasRigidElements(const RunState& run) { return run.counters[familyRbe2] > 0 || run.counters[familyRbe3] > 0; }
 
-bool HasPressures(const RunState& run) { return run.counters[familyPressure] != 0 && HashCount(&PressureSetTable) != 0; }
+bool HasPressures(const RunState& run) { return run.counters[familyPressure] != 0 && PressureSetTable.size != 0; }
 
 bool HasForces(const RunState& run) { return run.counters[familyForce] != 0 || run.counters[familyMoment] != 0; }
 
@@ -81,6 +82,8 @@ void UpdateTopology(RunState& run) { run.model->UpdateTopology(0); }
 void UniquePartNames(RunState& /*run*/) { MakePartNamesUnique(); }
 
 void CommitMaterials(RunState& run) { run.host.materials->Commit(); }
+
+void MakePressures(RunState& run) { CreatePressures(run.host.boundary, run.host.curves, &run.names.pressureOrConvection); }
 
 void MakeForces(RunState& run) { CreateForceLoads(run.host.boundary, run.host.curves, &run.names.pointForce); }
 
@@ -131,7 +134,7 @@ constexpr FinishingStage stagesBehindElements[] = {
 };
 
 constexpr FinishingStage stagesBehindLoads[] = {
-    {"pressures", HasPressures, "Creating Pressure....\n", StageNotBuilt},
+    {"pressures", HasPressures, "Creating Pressure....\n", MakePressures},
     {"forces and moments", HasForces, "Creating Force/Moment....\n", MakeForces},
     {"masses", HasMasses, nullptr, StageNotBuilt},
     {"bushes", HasBushes, nullptr, StageNotBuilt},

@@ -9,6 +9,7 @@
 #include "driver/progress.h"
 #include "host/host_interfaces.h"
 #include "loads/forces.h"
+#include "loads/pressures.h"
 #include "support/indexed_list.h"
 
 namespace btz {
@@ -106,9 +107,10 @@ struct RunState {
   std::int32_t includesScanned = 0;  ///< Include lines that the pre-scan counted.
   std::int32_t counters[familyCount] = {};
   NameCounters names;
-  LoadVector forceReference = {};   ///< What FORCE cards are compared with.
-  LoadVector momentReference = {};  ///< What MOMENT cards are compared with.
-  SubcaseIndex subcaseIndex;        ///< For the combination cards.
+  LoadVector forceReference = {};       ///< What FORCE cards are compared with.
+  LoadVector momentReference = {};      ///< What MOMENT cards are compared with.
+  CornerValues pressureReference = {};  ///< What PLOAD4 cards are compared with.
+  SubcaseIndex subcaseIndex;            ///< For the combination cards.
   bool hasSeenSubcase = false;
   char setName[256] = "";  ///< Name of the current set or surface.
   ListCellPool listPool;   ///< Cells of the run's lists.

@@ -1,6 +1,6 @@
 #include "driver/split_faces.h"
 
-#include "loads/pressures.h"
+#include "loads/load_parts.h"
 #include "mesh/parts.h"
 #include "support/hash_keys.h"
 #include "support/hash_table.h"

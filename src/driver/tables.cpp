@@ -9,6 +9,7 @@
 #include "loads/constraints.h"
 #include "loads/convection.h"
 #include "loads/forces.h"
+#include "loads/load_parts.h"
 #include "loads/load_sets.h"
 #include "loads/pressures.h"
 #include "loads/temperatures.h"
@@ -57,7 +58,6 @@ constexpr TableSetUp processTables[] = {
     {&SurfaceElementTable, 1000, HashFirstInt, nullptr},
     {&FluxTable, 1000, HashSecondInt, nullptr},
     {&TemperatureSetTable, 1000, HashFirstInt, nullptr},
-    {&PressureSetTable, 1000, HashFirstInt, nullptr},
     {&RbarTable, 1000, HashFirstInt, nullptr},
     {&PropertyNameTable, 1000, HashFirstInt, nullptr},
     {&SpringPairTable, 1000, HashNodePairMin, CompareNodePair},
@@ -78,7 +78,7 @@ constexpr TableSetUp processTables[] = {
 };
 
 // Tables in which a deck can have millions of records, or millions under one key.
-IndexedList* const processIndexedLists[] = {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable, &LoadSetTable};
+IndexedList* const processIndexedLists[] = {&NodeEnforcedValueTable, &PressureSetTable, &ForceSetTable, &ForceNodeTable, &LoadSetTable};
 
 PooledList* const processLists[] = {&PartList, &LoadPartList, &AsetList, &TransitionElementList, &PretensionBoltList};
 

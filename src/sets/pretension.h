@@ -5,6 +5,14 @@
 
 namespace btz {
 
+/// A bolt and where it is cut. Heap block, held by PretensionTable.
+struct PretensionRecord {
+  std::int32_t boltId;
+  std::int32_t targetId;  ///< Surface, or element when isElement is 1.
+  std::int32_t isElement;
+  MeshPart* cutPart;  ///< Faces that a surface card had made; null if there are none.
+};
+
 /// What a subcase does to a bolt. Heap block, held by the bolt's table of steps.
 struct BoltStep {
   std::int32_t caseId;  ///< The subcase's pretension id.
@@ -24,7 +32,7 @@ struct BoltRecord {
   Constraint* constraintEntity;
 };
 
-inline HashTable PretensionTable;        ///< Bolts by bolt id.
+inline HashTable PretensionTable;        ///< PretensionRecord by bolt id.
 inline HashTable PretensionAdjustTable;  ///< Forces and adjustments by set id, the third field of the record.
 inline PooledList PretensionBoltList;    ///< BoltRecord.
 

@@ -9,6 +9,7 @@
 
 #include "deck/name_comments.h"
 #include "driver/clean_up.h"
+#include "loads/load_parts.h"
 #include "loads/pressures.h"
 #include "mesh/gaps.h"
 #include "mesh/parts.h"
@@ -118,9 +119,9 @@ TEST_F(StageTest, StagesLeftToBuild) {
       }
     }
   }
-  EXPECT_THAT(left, ElementsAre("transition elements", "rigid bodies", "pressures", "masses", "bushes", "springs", "gaps",
-                                "multi-point constraints", "convection", "flux", "temperatures", "rigid bars", "analysis node sets",
-                                "excitations", "pretension", "bolts released"));
+  EXPECT_THAT(left, ElementsAre("transition elements", "rigid bodies", "masses", "bushes", "springs", "gaps", "multi-point constraints",
+                                "convection", "flux", "temperatures", "rigid bars", "analysis node sets", "excitations", "pretension",
+                                "bolts released"));
 }
 
 TEST_F(StageTest, MaterialsAreRenamedWhenACommentNamesOne) {
@@ -171,7 +172,7 @@ TEST_F(StageTest, RigidBodiesAreDueForEitherKind) {
 TEST_F(StageTest, PressuresNeedCardsAndRecords) {
   run.counters[familyPressure] = 1;
   EXPECT_THAT(Due(), IsEmpty());
-  Insert(&PressureSetTable);
+  IndexedListAppend(&PressureSetTable, 7, AllocateZeroed(sizeof(PressureSetRecord)));
   EXPECT_THAT(Due(), ElementsAre("pressures"));
   run.counters[familyPressure] = 0;
   EXPECT_THAT(Due(), IsEmpty());

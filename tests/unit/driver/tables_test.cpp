@@ -11,6 +11,7 @@
 #include "loads/constraints.h"
 #include "loads/convection.h"
 #include "loads/forces.h"
+#include "loads/load_parts.h"
 #include "loads/load_sets.h"
 #include "loads/pressures.h"
 #include "loads/temperatures.h"
@@ -56,7 +57,6 @@ const ExpectedTable processTables[] = {
     {"SurfaceElementTable", &SurfaceElementTable, 1001, HashFirstInt, nullptr},  // Its records begin with the element id.
     {"FluxTable", &FluxTable, 1001, HashSecondInt, nullptr},
     {"TemperatureSetTable", &TemperatureSetTable, 1001, HashFirstInt, nullptr},
-    {"PressureSetTable", &PressureSetTable, 1001, HashFirstInt, nullptr},
     {"RbarTable", &RbarTable, 1001, HashFirstInt, nullptr},
     {"PropertyNameTable", &PropertyNameTable, 1001, HashFirstInt, nullptr},
     {"SpringPairTable", &SpringPairTable, 1001, HashNodePairMin, CompareNodePair},
@@ -301,7 +301,7 @@ TEST_F(RunTablesTest, TheCleanUpEmptiesTheIndexedTables) {
   int entity = 0;
   AddToLoadSet(7, constraintSet, reinterpret_cast<Entity*>(&entity));
   CleanUp(&run);
-  for (const IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable, &LoadSetTable}) {
+  for (const IndexedList* table : {&NodeEnforcedValueTable, &ForceSetTable, &ForceNodeTable, &PressureSetTable, &LoadSetTable}) {
     EXPECT_EQ(table->size, 0);
     EXPECT_EQ(table->slots, nullptr);
   }
