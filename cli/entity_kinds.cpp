@@ -15,7 +15,7 @@ const std::vector<EntityWords>& AllEntityWords() {
       {ObjectType::ForceLoad, nullptr, "forces and moments", true},
       {ObjectType::BodyLoad, nullptr, "body loads", true},
       {ObjectType::NodeSystemAssignment, "displacement systems", "assignments to nodes", false},
-      {ObjectType::Pressure, "other loads", "pressures", true},
+      {ObjectType::Pressure, nullptr, "pressures", true},
       {ObjectType::Pretension, "other loads", "pretensions", false},
       {ObjectType::ThermalLoad, "other loads", "temperatures", true},
       {ObjectType::Flux, "other loads", "heat fluxes", true},
@@ -29,8 +29,8 @@ const std::vector<EntityWords>& AllEntityWords() {
       {ObjectType::Damping, "connections", "dampings", false},
       {ObjectType::MassEntity, "masses", "masses", false},
       {ObjectType::PlotEntity, "plot elements", "plot elements", false},
-      {ObjectType::EntitySet, "sets and surfaces", "sets", false},
-      {ObjectType::Surface, "sets and surfaces", "surfaces", false},
+      {ObjectType::EntitySet, nullptr, "sets", false},
+      {ObjectType::Surface, "surfaces of shells", "surfaces", false},
   };
   return words;
 }

@@ -40,6 +40,19 @@ void SetKindAndVector(const memory::MemoryBodyLoad& load, BodyLoadSummary* summa
   }
 }
 
+/// Finds the lowest and highest value of a field: the last column of its rows.
+void SetRange(const memory::MemoryField& field, PressureSummary* summary) {
+  bool isFirst = true;
+  for (const std::vector<double>& row : field.rows) {
+    if (row.empty()) {
+      continue;
+    }
+    summary->lowest = isFirst ? row.back() : std::min(summary->lowest, row.back());
+    summary->highest = isFirst ? row.back() : std::max(summary->highest, row.back());
+    isFirst = false;
+  }
+}
+
 }  // namespace
 
 std::vector<ConstraintSummary> SummariseConstraints(const memory::MemoryHost& host) {
@@ -80,6 +93,24 @@ std::vector<BodyLoadSummary> SummariseBodyLoads(const memory::MemoryHost& host) 
     summary.parts = static_cast<std::size_t>(load.info.parts.Size());
   }
   return loads;
+}
+
+std::vector<PressureSummary> SummarisePressures(const memory::MemoryHost& host, const FaceMeter& meter) {
+  std::vector<PressureSummary> pressures;
+  for (const memory::MemoryPressure& pressure : host.Boundary().pressures) {
+    PressureSummary& summary = pressures.emplace_back();
+    summary.id = pressure.info.shownId;
+    summary.name = DisplayText(pressure.info.name);
+    summary.isByField = pressure.field != nullptr;
+    if (summary.isByField) {
+      SetRange(*static_cast<const memory::MemoryField*>(pressure.field), &summary);
+    } else {
+      summary.lowest = pressure.pressure;
+      summary.highest = pressure.pressure;
+    }
+    summary.faces = meter.Measure(pressure.info.parts);
+  }
+  return pressures;
 }
 
 }  // namespace btz::cli

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/face_summary.h"
+
 namespace btz::memory {
 class MemoryHost;
 }
@@ -44,9 +46,19 @@ struct BodyLoadSummary {
   std::size_t parts = 0;
 };
 
+struct PressureSummary {
+  std::int32_t id = 0;
+  std::string name;
+  double lowest = 0.0;  ///< Lowest and highest value, the same when it is uniform.
+  double highest = 0.0;
+  bool isByField = false;  ///< The values are those of a field, by position.
+  FaceSummary faces;
+};
+
 // Each in order of creation.
 std::vector<ConstraintSummary> SummariseConstraints(const memory::MemoryHost& host);
 std::vector<ForceSummary> SummariseForces(const memory::MemoryHost& host);
 std::vector<BodyLoadSummary> SummariseBodyLoads(const memory::MemoryHost& host);
+std::vector<PressureSummary> SummarisePressures(const memory::MemoryHost& host, const FaceMeter& meter);
 
 }  // namespace btz::cli

@@ -138,6 +138,9 @@ ModelSummary SummariseModel(const MemoryHost& host) {
   summary.constraints = SummariseConstraints(host);
   summary.forces = SummariseForces(host);
   summary.bodyLoads = SummariseBodyLoads(host);
+  const FaceMeter meter(host);
+  summary.pressures = SummarisePressures(host, meter);
+  summary.sets = SummariseSets(host, meter);
   summary.groups = {FieldGroup(host.Curves())};
   AddEntityGroups(host.Boundary(), summary.groups);
   summary.groups.push_back(ElementGroups(host.Groups()));

@@ -11,6 +11,7 @@
 #include "cli/load_case_summary.h"
 #include "cli/load_summary.h"
 #include "cli/property_summary.h"
+#include "cli/set_summary.h"
 #include "cli/system_summary.h"
 
 namespace btz::memory {
@@ -56,6 +57,8 @@ struct ModelSummary {
   std::vector<ConstraintSummary> constraints;
   std::vector<ForceSummary> forces;
   std::vector<BodyLoadSummary> bodyLoads;
+  std::vector<PressureSummary> pressures;
+  std::vector<SetSummary> sets;
   std::vector<ItemGroup> groups;  ///< The other headings, in the report's order; empty ones have no kinds.
   std::vector<LoadCaseSummary> loadCases;
   /// Constraints and loads that no load case has, by kind. Without load cases all of them.

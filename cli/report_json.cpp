@@ -99,6 +99,20 @@ Json JsonOf(const BodyLoadSummary& load) {
   return {{"id", load.id}, {"name", load.name}, {"kind", load.kind}, {"vector", load.vector}, {"parts", load.parts}};
 }
 
+Json JsonOf(const PressureSummary& pressure) {
+  return {{"id", pressure.id},           {"name", pressure.name},         {"byField", pressure.isByField}, {"lowest", pressure.lowest},
+          {"highest", pressure.highest}, {"parts", pressure.faces.parts}, {"faces", pressure.faces.faces}, {"area", pressure.faces.area}};
+}
+
+Json JsonOf(const SetSummary& set) {
+  Json json = {{"id", set.id}, {"name", set.name}, {"kind", set.kind}, {"members", set.members}};
+  if (set.isSurface) {
+    json["parts"] = set.faces.parts;
+    json["area"] = set.faces.area;
+  }
+  return json;
+}
+
 Json JsonOf(const std::vector<ItemKind>& kinds) {
   Json json = Json::object();
   for (const ItemKind& kind : kinds) {
@@ -148,7 +162,9 @@ Json JsonOf(const ModelSummary& model) {
                {"coordinate systems", ArrayOf(model.systems)},
                {"constraints", ArrayOf(model.constraints)},
                {"forces and moments", ArrayOf(model.forces)},
-               {"body loads", ArrayOf(model.bodyLoads)}};
+               {"body loads", ArrayOf(model.bodyLoads)},
+               {"pressures", ArrayOf(model.pressures)},
+               {"sets", ArrayOf(model.sets)}};
   for (const ItemGroup& group : model.groups) {
     json[group.title] = JsonOf(group.kinds);
   }

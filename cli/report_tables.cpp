@@ -92,6 +92,12 @@ std::string EnforcedText(const ConstraintSummary& constraint) {
   return values.empty() ? none : fmt::format("{}", fmt::join(values, ", "));
 }
 
+/// "0.5", or "0.5 to 2, by field".
+std::string PressureText(const PressureSummary& pressure) {
+  return pressure.isByField ? fmt::format("{:g} to {:g}, by field", pressure.lowest, pressure.highest)
+                            : fmt::format("{:g}", pressure.lowest);
+}
+
 /// Adds the first rows, `cells(item)` for each, and gives the table's text with the number of the others.
 template <typename Item, typename Cells>
 std::string ShortenedTable(TextTable table, const std::vector<Item>& items, Cells cells) {
@@ -192,6 +198,38 @@ std::string BodyLoadsTable(const ModelSummary& model) {
   TextTable table({{"Id", Align::Right, 8}, {"Kind"}, {"Name"}, {"Parts", Align::Right}, {"Vector"}});
   return ShortenedTable(std::move(table), model.bodyLoads, [](const BodyLoadSummary& load) -> std::vector<std::string> {
     return {fmt::format("{}", load.id), load.kind, NameText(load.name), fmt::format("{}", load.parts), VectorText(load.vector)};
+  });
+}
+
+std::string PressuresTable(const ModelSummary& model) {
+  TextTable table({{"Id", Align::Right, 8},
+                   {"Name"},
+                   {"Parts", Align::Right},
+                   {"Faces", Align::Right},
+                   {"Area", Align::Right},
+                   {"Value x area", Align::Right},
+                   {"Value"}});
+  return ShortenedTable(std::move(table), model.pressures, [](const PressureSummary& pressure) -> std::vector<std::string> {
+    return {fmt::format("{}", pressure.id),
+            NameText(pressure.name),
+            fmt::format("{}", pressure.faces.parts),
+            fmt::format("{}", pressure.faces.faces),
+            NumberText(pressure.faces.area),
+            pressure.isByField ? none : NumberText(pressure.lowest * pressure.faces.area),
+            PressureText(pressure)};
+  });
+}
+
+std::string SetsTable(const ModelSummary& model) {
+  TextTable table(
+      {{"Id", Align::Right, 8}, {"Kind"}, {"Name"}, {"Members", Align::Right}, {"Parts", Align::Right}, {"Area", Align::Right}});
+  return ShortenedTable(std::move(table), model.sets, [](const SetSummary& set) -> std::vector<std::string> {
+    return {fmt::format("{}", set.id),
+            set.kind,
+            NameText(set.name),
+            fmt::format("{}", set.members),
+            set.isSurface ? fmt::format("{}", set.faces.parts) : none,
+            set.isSurface ? NumberText(set.faces.area) : none};
   });
 }
 

@@ -19,6 +19,8 @@ std::string SystemsTable(const ModelSummary& model);
 std::string ConstraintsTable(const ModelSummary& model);
 std::string ForcesTable(const ModelSummary& model);
 std::string BodyLoadsTable(const ModelSummary& model);
+std::string PressuresTable(const ModelSummary& model);
+std::string SetsTable(const ModelSummary& model);
 
 /// The line that stands for the rest of a shortened table or list.
 std::string RestLine(std::size_t count);

@@ -51,7 +51,8 @@ class TextReport {
   /// A heading with its value.
   template <typename Value>
   void Heading(const std::string& label, const Value& value) {
-    fmt::format_to(std::back_inserter(text_), "{:<{}}{}\n", label, labelWidth, value);
+    const std::size_t width = std::max(labelWidth, label.size() + 2);
+    fmt::format_to(std::back_inserter(text_), "{:<{}}{}\n", label, width, value);
   }
 
   /// An indented line below a heading.
@@ -186,9 +187,11 @@ void AddMissing(TextReport& text, const ModelSummary& model) {
   note("constraints", model.constraints.empty());
   note("forces and moments", model.forces.empty());
   note("body loads", model.bodyLoads.empty());
+  note("pressures", model.pressures.empty());
   for (const ItemGroup& group : model.groups) {
     note(group.title.c_str(), group.kinds.empty());
   }
+  note("sets", model.sets.empty());
   note("load cases", model.loadCases.empty() && model.inNoLoadCase.empty());
   if (!missing.empty()) {
     text.Blank();
@@ -256,9 +259,11 @@ std::string ReportText(const RunReport& report) {
   AddTable(text, "Constraints", report.model.constraints, ConstraintsTable(report.model));
   AddTable(text, "Forces and moments", report.model.forces, ForcesTable(report.model));
   AddTable(text, "Body loads", report.model.bodyLoads, BodyLoadsTable(report.model));
+  AddTable(text, "Pressures", report.model.pressures, PressuresTable(report.model));
   for (const ItemGroup& group : report.model.groups) {
     AddGroup(text, group);
   }
+  AddTable(text, "Sets", report.model.sets, SetsTable(report.model));
   AddLoadCases(text, report.model);
   AddMissing(text, report.model);
   AddLog(text, report.log);

@@ -14,7 +14,8 @@ Units: mm, N, tonne (so MPa, and 9810 mm/s^2 for gravity). The wall is the plane
        |  |____|____\\___|____|   block with a ramp, on the base plate
        +-------------------------> x   a tube runs along each long edge of the base plate
 
-The nodes in the lower hole and on its rim are given in a cylindrical system, whose axis is the hole's.
+The nodes in the lower hole and on its rim are given in a cylindrical system, whose axis is the hole's. Where the block stands on the base plate there
+is a contact surface.
 """
 import argparse
 import pathlib
@@ -39,6 +40,7 @@ HOLE_SYSTEM = 10
 LOAD_NODE = 9001
 BOLT_ELEMENT, LOAD_ELEMENT, MASS_ELEMENT = 9101, 9111, 9121
 SUPPORT_SET, LIFT_SET, WEIGHT_SET, PRESSURE_SET, LIFT_AND_WEIGHT_SET = 1, 10, 20, 30, 100
+RIM_SET, GUSSET_SET, CONTACT_SURFACE = 201, 202, 203
 
 
 def field(value):
@@ -63,6 +65,7 @@ class Model:
         self.nodes = {}
         self.element_cards = []
         self.elements = {}
+        self.undersides = []  # Solids on the base plate, each with two opposite corners of its lower side.
 
     def node(self, x, y, z):
         """The node at a place given in cells."""
@@ -125,7 +128,9 @@ def add_block(model):
             for y in range(*BLOCK_Y):
                 square = [(x, y), (x + 1, y), (x + 1, y + 1), (x, y + 1)]
                 nodes = [model.node(*corner, level) for level in (z, z + 1) for corner in square]
-                model.add("CHEXA", BLOCK, nodes)
+                number = model.add("CHEXA", BLOCK, nodes)
+                if z == 0:
+                    model.undersides.append((number, nodes[0], nodes[2]))
     foot = BLOCK_X[0]
     for y in range(*BLOCK_Y):
         nodes = [model.node(x, place, z) for place in (y + 1, y) for x, z in ((foot - 1, 0), (foot, 0), (foot, 1))]
@@ -228,6 +233,18 @@ def loads(model, free_elements):
     return lines
 
 
+def sets(model):
+    """Nodes around the lower hole, the elements of the gussets, and the sides of the block that lie on the base plate."""
+    lines = ["$Rim_of_lower_hole"] + card("SET", RIM_SET, "GRID")
+    lines += card("+", *[model.nodes[place] for place in hole_rim(HOLE_ROWS[0]).values()])
+    first, count = 1000 * GUSSETS + 1, model.elements[GUSSETS]
+    lines += ["$All_gussets"] + card("SET", GUSSET_SET, "ELEM") + card("+", first, "THRU", first + count - 1)
+    lines += ["$Block_on_plate"] + card("SURF", CONTACT_SURFACE)
+    for element, low, high in model.undersides:
+        lines += card("+", element, low, high)
+    return lines
+
+
 def grid_points(model):
     row = HOLE_ROWS[0]
     polar = {(0, HOLE_COLUMN, row): (0.0, 0.0, 0.0), **{place: (CELL, float(angle), 0.0) for angle, place in hole_rim(row).items()}}
@@ -252,7 +269,7 @@ def make_deck():
     rigid = connections(model)
     lines = ["$ A bracket of steel sheet with an aluminium block: written by make_bracket.py. Units: mm, N, tonne."]
     lines += case_control() + names() + materials_and_properties() + hole_system()
-    lines += grid_points(model) + model.element_cards + rigid + loads(model, free_elements)
+    lines += grid_points(model) + model.element_cards + rigid + loads(model, free_elements) + sets(model)
     return "\n".join(lines + ["ENDDATA"]) + "\n"
 
 

@@ -554,6 +554,40 @@ class Report(ProgramTest):
         self.assertEqual(second["members"]["body loads"], [{"id": 1, "name": ""}])
         self.assertEqual(model["in no load case"], {"forces and moments": [{"id": 3, "name": "PointForce1"}]})
 
+    PRESSURES = (
+        NODES
+        + card("GRID", 4, "", "1.0", "1.0", "0.0")
+        + TRIANGLE
+        + card("CTRIA3", 12, 7, 2, 4, 3)
+        + card("PLOAD4", 5, 11, "-0.5")
+        + "$Edge\n"
+        + card("SET", 8, "GRID")
+        + card("+", 1, "THRU", 3)
+        + "ENDDATA\n"
+    )
+
+    def test_pressures_and_sets(self):
+        done = self.run_btz("inspect", self.write("pressures.bdf", self.PRESSURES))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertIn(
+            "\nPressures           1\n"
+            "        Id  Name       Parts  Faces  Area  Value x area  Value\n"
+            "         2  Pressure1      1      1   0.5         -0.25  -0.5\n",
+            done.stdout,
+        )
+        self.assertIn(
+            "\nSets                1\n"
+            "        Id  Kind   Name  Members  Parts  Area\n"
+            "         1  nodes  Edge        3      -     -\n",
+            done.stdout,
+        )
+        done = self.run_btz("inspect", "--json", self.write("pressures.bdf", self.PRESSURES))
+        model = json.loads(done.stdout)["model"]
+        (pressure,) = model["pressures"]
+        self.assertEqual((pressure["lowest"], pressure["faces"], pressure["area"]), (-0.5, 1, 0.5))
+        self.assertEqual(model["sets"], [{"id": 1, "name": "Edge", "kind": "nodes", "members": 3}])
+        self.assertEqual(model["parts"][0]["faces"], 2)
+
     def test_a_single_subcase_that_uses_everything_makes_no_load_case(self):
         case = "SUBCASE 1\n  SPC = 1\n  LOAD = 10\nBEGIN BULK\n"
         bulk = NODES + TRIANGLE + card("FORCE", 10, 2, 0, "2.0", "1.0", "0.0", "0.0") + card("SPC", 1, 1, 123456, "0.0")

@@ -80,27 +80,33 @@ TEST(ModelSummary, EntitiesWithoutATableStandUnderTheirHeadings) {
   ForceLoad* force = nullptr;
   std::int32_t forceId = 0;
   store->CreateForce(&force, &forceId);
-  for (const wchar_t* name : {L"Pressure2", L"Suction"}) {
-    Pressure* pressure = nullptr;
-    store->CreatePressure(&pressure);
-    pressure->SetName(name);
+  for (const wchar_t* name : {L"Flux2", L"Sun"}) {
+    Flux* flux = nullptr;
+    store->CreateFlux(&flux);
+    flux->SetName(name);
   }
-  Flux* flux = nullptr;
-  store->CreateFlux(&flux);
+  Convection* convection = nullptr;
+  store->CreateConvection(&convection);
+  Pressure* pressure = nullptr;
+  store->CreatePressure(&pressure);
+  EntitySet* set = nullptr;
+  store->CreateSet(&set);
   Mpc* tie = nullptr;
   store->CreateMpc(&tie);
 
   const ModelSummary summary = SummariseModel(host);
 
   EXPECT_EQ(summary.forces.size(), 1u);
+  EXPECT_EQ(summary.pressures.size(), 1u);
+  EXPECT_EQ(summary.sets.size(), 1u);
   const ItemGroup& loads = GroupOf(summary, "other loads");
   ASSERT_EQ(loads.kinds.size(), 2u);
-  EXPECT_EQ(loads.kinds[0].kind, "pressures");
+  EXPECT_EQ(loads.kinds[0].kind, "heat fluxes");
   ASSERT_EQ(loads.kinds[0].items.size(), 2u);
   EXPECT_EQ(loads.kinds[0].items[0].id, 2);  // Ids run over all entities.
-  EXPECT_EQ(loads.kinds[0].items[0].name, "Pressure2");
-  EXPECT_EQ(loads.kinds[0].items[1].name, "Suction");
-  EXPECT_EQ(loads.kinds[1].kind, "heat fluxes");
+  EXPECT_EQ(loads.kinds[0].items[0].name, "Flux2");
+  EXPECT_EQ(loads.kinds[0].items[1].name, "Sun");
+  EXPECT_EQ(loads.kinds[1].kind, "convections");
   const ItemGroup& ties = GroupOf(summary, "ties");
   ASSERT_EQ(ties.kinds.size(), 1u);
   EXPECT_EQ(ties.kinds[0].kind, "ties between nodes");

@@ -197,21 +197,21 @@ TEST(ReportText, WhatTheModelDoesNotHaveTakesOneLine) {
   const std::string text = ReportText(SmallReport());
 
   EXPECT_THAT(text, HasSubstr("\nNot in the model    properties, materials, coordinate systems, constraints, forces and moments,\n"
-                              "                    body loads, curves and fields, other loads, load cases\n"));
+                              "                    body loads, pressures, curves and fields, other loads, sets, load cases\n"));
 }
 
 TEST(ReportText, KindsShowTheirFirstNames) {
   RunReport report = SmallReport();
-  ItemKind pressures{"pressures", {}};
+  ItemKind convections{"convections", {}};
   for (std::int32_t id = 1; id <= 6; ++id) {
-    pressures.items.push_back({id, "Pressure" + std::to_string(id)});
+    convections.items.push_back({id, "Convection" + std::to_string(id)});
   }
-  report.model.groups[1].kinds = {pressures, {"heat fluxes", {{9, ""}}}};
+  report.model.groups[1].kinds = {convections, {"heat fluxes", {{9, ""}}}};
 
   const std::string text = ReportText(report);
 
   EXPECT_THAT(text, HasSubstr("\nOther loads         7\n"));
-  EXPECT_EQ(LineWith(text, "  pressures"), "pressures 6 Pressure1, Pressure2, Pressure3, Pressure4, ...");
+  EXPECT_EQ(LineWith(text, "  convections"), "convections 6 Convection1, Convection2, Convection3, Convection4, ...");
   EXPECT_EQ(LineWith(text, "heat fluxes"), "heat fluxes 1 id 9");
   EXPECT_THAT(text, Not(HasSubstr("other loads")));
 }
@@ -249,6 +249,33 @@ TEST(ReportText, BodyLoadsShowKindPartsAndVector) {
                                             "        Id  Kind             Name       Parts  Vector\n"
                                             "         3  gravity          (no name)      6  (0, 0, -9810)\n"
                                             "        14  scaled rotation  (no name)      0  (0, 1, 0)\n"));
+}
+
+TEST(ReportText, PressuresShowTheirFacesAreaAndValue) {
+  RunReport report = SmallReport();
+  report.model.pressures = {{3, "Pressure1", -0.02, -0.02, false, {1, 48, 4800.0}}, {14, "", 0.5, 2.0, true, {2, 1200, 1.5e6}}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nPressures           2\n"
+                                            "        Id  Name       Parts  Faces     Area  Value x area  Value\n"
+                                            "         3  Pressure1      1     48     4800           -96  -0.02\n"
+                                            "        14  (no name)      2   1200  1.5e+06             -  0.5 to 2, by field\n"));
+}
+
+TEST(ReportText, SetsShowTheirMembersAndSurfacesTheirArea) {
+  RunReport report = SmallReport();
+  report.model.sets = {{5, "Rim", "nodes", 4, false, {}}, {6, "", "surface", 12, true, {2, 12, 1200.0}}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nSets                2\n"
+                                            "        Id  Kind     Name       Members  Parts  Area\n"
+                                            "         5  nodes    Rim              4      -     -\n"
+                                            "         6  surface  (no name)       12      2  1200\n"));
+}
+
+TEST(ReportText, AHeadingAsLongAsItsColumnKeepsItsDistance) {
+  RunReport report = SmallReport();
+  report.model.groups = {{"displacement systems", {{"assignments to nodes", {{27, ""}}}}}};
+
+  EXPECT_THAT(ReportText(report), HasSubstr("\nDisplacement systems  1\n"));
 }
 
 TEST(ReportText, LongTablesOfLoadsEndWithTheNumberOfTheRest) {
@@ -352,7 +379,7 @@ TEST(ReportText, AMissingLogIsSaid) {
 
 TEST(ReportJson, HoldsWhatTheTextHolds) {
   RunReport report = SmallReport();
-  report.model.groups[1].kinds = {{"pressures", {{4, "Pull \xFF"}}}};
+  report.model.groups[1].kinds = {{"convections", {{4, "Pull \xFF"}}}};
 
   const nlohmann::json json = nlohmann::json::parse(ReportJson(report));
 
@@ -361,10 +388,23 @@ TEST(ReportJson, HoldsWhatTheTextHolds) {
   EXPECT_EQ(json["model"]["nodes"], 9);
   EXPECT_EQ(json["model"]["elements"]["triangles, 3 nodes"], 2);
   EXPECT_EQ(json["model"]["parts"][0]["name"], "Wing skin");
-  EXPECT_EQ(json["model"]["other loads"]["pressures"][0]["id"], 4);
+  EXPECT_EQ(json["model"]["other loads"]["convections"][0]["id"], 4);
   // A byte that is no UTF-8 becomes the replacement character.
-  EXPECT_EQ(json["model"]["other loads"]["pressures"][0]["name"], "Pull \xEF\xBF\xBD");
+  EXPECT_EQ(json["model"]["other loads"]["convections"][0]["name"], "Pull \xEF\xBF\xBD");
   EXPECT_EQ(json["log"]["nodesRead"], 9);
+}
+
+TEST(ReportJson, PressuresAndSetsHaveTheirFaces) {
+  RunReport report = SmallReport();
+  report.model.pressures = {{3, "Pressure1", -0.02, -0.02, false, {1, 48, 4800.0}}};
+  report.model.sets = {{5, "Rim", "nodes", 4, false, {}}, {6, "Contact", "surface", 12, true, {2, 12, 1200.0}}};
+
+  const nlohmann::json model = nlohmann::json::parse(ReportJson(report))["model"];
+
+  EXPECT_EQ(model["pressures"], nlohmann::json::parse(R"([{"id": 3, "name": "Pressure1", "byField": false, "lowest": -0.02,
+      "highest": -0.02, "parts": 1, "faces": 48, "area": 4800.0}])"));
+  EXPECT_EQ(model["sets"], nlohmann::json::parse(R"([{"id": 5, "name": "Rim", "kind": "nodes", "members": 4},
+      {"id": 6, "name": "Contact", "kind": "surface", "members": 12, "parts": 2, "area": 1200.0}])"));
 }
 
 TEST(ReportJson, PropertiesMaterialsAndSystemsHaveAllTheirValues) {
