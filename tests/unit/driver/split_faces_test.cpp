@@ -103,6 +103,16 @@ TEST_F(SplitFacesTest, AFaceWithoutElementsIsLeftOut) {
   EXPECT_EQ(LoadPartList.size, 0);
 }
 
+TEST_F(SplitFacesTest, APartWithoutAMeshIsNotAskedForItsFaces) {
+  TracedHost all(HostOptions(), TraceSink::Coverage::All);
+  const std::string deck = std::string(bricks) + "CTRIA3  13      40      1       2       99      \nENDDATA\n";
+  EXPECT_EQ(Translate(deck, all, {.splitFaceValue = 0.5}), 0);
+  const std::string stage = all.trace.substr(all.trace.find("AttachModel"));
+  EXPECT_THAT(stage, testing::HasSubstr("MeshPart#1.GetFaceList()"));
+  EXPECT_THAT(stage, testing::HasSubstr("MeshPart#2.HasMesh() -> 0\n"));
+  EXPECT_THAT(stage, testing::Not(testing::HasSubstr("MeshPart#2.GetFaceList()")));
+}
+
 TEST_F(SplitFacesTest, AllFacesOfAPartAreSplitInOneCall) {
   traced.host.SetHook([](const char* /*type*/, const char* operation) {
     if (std::string_view(operation) == "AttachModel") {

@@ -463,12 +463,13 @@ TEST_F(SurfaceCardTest, TheOwnerOfTheFirstElementMakesTheFacesOfAll) {
 
 TEST_F(SurfaceCardTest, TextInTheFirstColumnsIsTheNextCard) {
   MakeTwoBricks();
-  for (const char* next : {"GRID    1       5       7       \n", "$ 1     1       5       7       \n", "+A      1       5       7       \n",
-                           "1.0D+3  1       5       7       \n", "1E5     1       5       7       \n"}) {
+  for (const char* next :
+       {"GRID    1       5       7       \n", "$ 1     1       5       7       \n", "+A      1       5       7       \n",
+        "1E +5   1       5       7       \n", "1.0D+3  1       5       7       \n", "1E5     1       5       7       \n"}) {
     EXPECT_EQ(Read("SURF    5       \n+       1       1       3       \n" + std::string(next)), next);
     EXPECT_EQ(FacesAskedFor(), "none") << next;
   }
-  EXPECT_EQ(SetCount(), 5u);
+  EXPECT_EQ(SetCount(), 6u);
 }
 
 TEST_F(SurfaceCardTest, AnyOtherTextInTheFirstColumnsIsPassedOver) {
@@ -495,6 +496,16 @@ TEST_F(SurfaceCardTest, AnElementOfNumberZeroIsTheNextCard) {
     EXPECT_EQ(FacesAskedFor(), "[e1], [6]") << next;
     DropFace(1, 5);
   }
+}
+
+TEST_F(SurfaceCardTest, AnElementOfNumberZeroIsNotAskedFor) {
+  MakeTwoBricks();
+  std::int32_t asked = 0;
+  host.SetHook([&](const char* /*type*/, const char* operation) { asked += std::string_view(operation) == "GetSolidElement" ? 1 : 0; });
+  Read("SURF    5       \n+       1       5       7       \n+       0       \n");
+  EXPECT_EQ(asked, 1);
+  Read("SURF    5       \n+       1       5       7       \n+       -1      \n");
+  EXPECT_EQ(asked, 3);
 }
 
 TEST_F(SurfaceCardTest, AnElementThatDoesNotExistIsTheNextCard) {
@@ -761,6 +772,14 @@ TEST_F(SurfaceBolts, FacesThatWereRefusedCutNothing) {
   SolidElement(1)->owner = nullptr;
   ReadLines({"1|5|7"});
   EXPECT_EQ(CutOf(bolt), 0);
+}
+
+TEST_F(SurfaceBolts, FacesThatWereRefusedLeaveTheCutOfAnEarlierSurface) {
+  PretensionRecord* bolt = AddBolt(5, 0);
+  ReadLines({"1|5|7"});
+  host.Refusals().RefuseFrom("TopoFace.CreateFaces", 1);
+  ReadLines({"2|5|7"});
+  EXPECT_EQ(CutOf(bolt), 8);
 }
 
 // Hosts that refuse.
