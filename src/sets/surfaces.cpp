@@ -49,7 +49,8 @@ struct SurfaceLine {
   std::int32_t secondNode = 0;
 };
 
-/// Reads a line's fields; false when it belongs to the next card. Required: columns are counted from the first character that is no blank.
+/// Reads a line's fields; false when it belongs to the next card. Required: columns are counted from the first character that is no blank, and the head
+/// of a line takes a whole field of the card's width, 16 columns in a large card.
 bool ReadSurfaceLine(char* line, std::int32_t width, SurfaceLine* fields) {
   TrimLeft(line);
   FieldText head;
@@ -137,10 +138,10 @@ PretensionRecord* FindBolt(std::int32_t surfaceId) {
 
 /// Has the host make the faces that are in no part yet; they join the items.
 void MakeFaces(std::int32_t surfaceId, SurfaceLists* lists) {
-  auto* first = static_cast<MeshElement*>(lists->faceOwners.next->value);
-  if (lists->faceOwners.size != lists->faceNumbers.size || first == nullptr) {
+  if (lists->faceOwners.size == 0 || lists->faceOwners.size != lists->faceNumbers.size) {
     return;
   }
+  const auto* first = static_cast<const MeshElement*>(lists->faceOwners.next->value);
   MeshPart* part = nullptr;
   if (first->owner != nullptr) {
     first->owner->CreateFaces(&lists->faceOwners, &lists->faceNumbers, &lists->items, &part);
@@ -183,9 +184,7 @@ void ReadSurfCard(DeckBuffer* file, MeshModel* model, BoundaryStore* boundary, c
   const std::int32_t surfaceId = ParseInteger(at, static_cast<std::size_t>(width));
   SurfaceLists lists;
   TakeLines(file, model, width, &lists);
-  if (lists.faceOwners.size != 0) {
-    MakeFaces(surfaceId, &lists);
-  }
+  MakeFaces(surfaceId, &lists);
   PooledList parts;
   ListInit(&parts, &lists.cells);
   CollectLoadParts(&lists.items, &parts, boundary);
