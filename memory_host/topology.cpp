@@ -28,10 +28,7 @@ void MemoryFaceMesh::Rebuild() {
   Refresh();
 }
 
-void MemoryFaceMesh::Refresh() {
-  areNodesKnown_ = false;
-  ListRewind(elements.Get());
-}
+void MemoryFaceMesh::Refresh() { areNodesKnown_ = false; }
 
 OwnedList& MemoryFaceMesh::Nodes() {
   if (!areNodesKnown_) {

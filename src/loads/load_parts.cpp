@@ -75,23 +75,23 @@ void CopyChain(const IndexedCell* chain, Elements* elements) {
   }
 }
 
-/// Takes the marked elements out of their mesh, `count` at most, and clears their marks. The walk ends with the last of them: many loads on one large
-/// part must not cost a walk over the whole part each. Returns how many there were.
+/// Takes the marked elements out of their mesh, `count` at most, and clears their marks. Returns how many there were. Many loads on one large part must
+/// not cost a walk over the whole part each: the walk goes on where the one before it ended, unless the host has used the list since, and ends with
+/// the last of the elements.
 std::size_t RemoveMarked(PooledList* meshElements, std::size_t count) {
   std::size_t removed = 0;
-  ListRewind(meshElements);
-  while (removed < count) {
+  int ends = 0;
+  while (removed < count && ends < 2) {
     auto* element = static_cast<MeshElement*>(ListNext(meshElements));
     if (element == nullptr) {
-      break;
-    }
-    if (element->mark == markLeaves) {
+      ++ends;
+      ListRewind(meshElements);
+    } else if (element->mark == markLeaves) {
       element->mark = markStays;
       ListRemoveCurrent(meshElements, element);
       ++removed;
     }
   }
-  ListRewind(meshElements);
   return removed;
 }
 
