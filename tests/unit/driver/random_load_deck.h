@@ -6,6 +6,7 @@
 #include <array>
 #include <compare>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <random>
 #include <string>
@@ -566,9 +567,17 @@ class RandomLoadDeck {
     bool nodeMissing = false;
     bool elementMissing = false;
     const auto take = [&](std::int32_t id) {
-      nodeById_.count(id) != 0 ? nodes.nodeIds.push_back(id) : void(nodeMissing = true);
+      if (nodeById_.count(id) != 0) {
+        nodes.nodeIds.push_back(id);
+      } else {
+        nodeMissing = true;
+      }
       Piece piece;
-      FindElement(id, &piece) ? elements.elements.push_back(piece) : void(elementMissing = true);
+      if (FindElement(id, &piece)) {
+        elements.elements.push_back(piece);
+      } else {
+        elementMissing = true;
+      }
       elements.kind = piece.kind == PieceKind::Solid ? 3 : elements.kind;
     };
     int column = 0;
