@@ -1,7 +1,8 @@
 // Decks of pressures, and of contact surfaces on faces of solids, on the in-memory host: what it costs to cut what is loaded out of its parts.
-// The time for a loaded element or face must not grow with their number; what a cut costs on top of that is one walk of the store's entities and
-// one of the part that is cut, as far as the last element that leaves it. Compare the rows of one run with each other; the rows named Alone are the
-// same meshes without loads.
+// The time for a loaded element or face must not grow with their number. A cut costs two things on top of that which do: each entity of the store is
+// asked for its parts, and the elements of the part are walked from where the last cut ended to the last one that leaves. Sets are handled in the
+// order of a table of 1001 buckets, so many sets on one part go over it once for each bucket. Compare the rows of one run with each other; the rows
+// named Alone are the same meshes without loads.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -209,8 +210,8 @@ BENCHMARK(ElementsAlone)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecon
 BENCHMARK(LoadedElementsOfOneSet)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(SetsOf1InMeshOrder)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(SetsOf1InRandomOrder)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(SetsOf100InMeshOrder)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(SetsOf100InRandomOrder)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(SetsOf100InMeshOrder)->Arg(1000)->Arg(3000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(SetsOf100InRandomOrder)->Arg(1000)->Arg(3000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(PartsAlone)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(OneSetOverCutParts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(OneSetOverWholeParts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
