@@ -202,7 +202,7 @@ void BuildSolidFaces(MemoryModel& model) {
   std::sort(skins.begin(), skins.end());
   skins.erase(std::unique(skins.begin(), skins.end()), skins.end());
   for (MemoryFace* skin : skins) {
-    skin->mesh.CollectNodes();
+    skin->mesh.Refresh();
   }
 }
 
@@ -227,7 +227,7 @@ void MakeFaces(Call& call, HostObject& object, MemoryBody& body, PooledList* ele
     solid.faces[numbers[i] - 1] = record;
     AppendLast(result, record);
   }
-  face.mesh.CollectNodes();
+  face.mesh.Refresh();
   call.Gave(Elements{face.mesh.elements.Get()});
   call.Give(outPart, face);
 }

@@ -6,12 +6,12 @@
 namespace btz::memory {
 
 MemoryFaceMesh::MemoryFaceMesh(HostContext& context, std::int32_t number)
-    : object(context, ObjectType::FaceMesh, this), nodes(context), elements(context), number_(number) {}
+    : object(context, ObjectType::FaceMesh, this), elements(context), nodes_(context), number_(number) {}
 
 void MemoryFaceMesh::GetNodes(PooledList** out) {
   Call call(object, "GetNodes");
   if (call.HasRoom(out)) {
-    call.GiveList<Nodes>(out, nodes);
+    call.GiveList<memory::Nodes>(out, Nodes());
   }
 }
 
@@ -25,20 +25,30 @@ void MemoryFaceMesh::GetElements(PooledList** out) {
 void MemoryFaceMesh::Rebuild() {
   Call call(object, "Rebuild");
   call.Arguments();
-  CollectNodes();
+  Refresh();
+}
+
+void MemoryFaceMesh::Refresh() { areNodesKnown_ = false; }
+
+OwnedList& MemoryFaceMesh::Nodes() {
+  if (!areNodesKnown_) {
+    CollectNodes();
+    areNodesKnown_ = true;
+  }
+  return nodes_;
 }
 
 void MemoryFaceMesh::CollectNodes() {
   MeshRecords& records = object.context.mesh;
   const std::uint32_t visit = ++records.lastVisit;
-  nodes.Clear();
+  nodes_.Clear();
   for (MeshElement* element : ReadElements(object, "Rebuild", elements.Get())) {
     const auto* known = static_cast<const MemoryElement*>(element);
     for (std::int32_t i = 0; i < known->nodeCount; ++i) {
       auto* node = static_cast<MemoryNode*>(known->nodes[i]);
       if (node != nullptr && node->visit != visit) {
         node->visit = visit;
-        nodes.Append(static_cast<MeshNode*>(node));
+        nodes_.Append(static_cast<MeshNode*>(node));
       }
     }
   }

@@ -27,14 +27,19 @@ class MemoryFaceMesh final : public FaceMesh {
   void Rebuild() override;
   std::int32_t GetNumber() override;
 
-  /// Sets the node list to the distinct nodes of the elements, in order of first use.
-  void CollectNodes();
+  /// To be called when the elements have changed: the node list becomes the distinct nodes of the elements, in order of first use. It is collected
+  /// when somebody asks for it: a load on a small piece of a large part changes the part's mesh, and hardly anybody asks.
+  void Refresh();
+  OwnedList& Nodes();
 
   HostObject object;
-  OwnedList nodes;
   OwnedList elements;
 
  private:
+  void CollectNodes();
+
+  OwnedList nodes_;
+  bool areNodesKnown_ = true;  ///< The node list is what it is to be.
   std::int32_t number_;
 };
 

@@ -10,9 +10,10 @@ namespace btz {
 
 namespace {
 
-// Working marks of elements. Between two calls every element bears the first.
+// Working marks of elements. Between two calls an element bears the first, or the last for good.
 constexpr std::int32_t markStays = 0;
 constexpr std::int32_t markLeaves = 1;  ///< Named by the load, and not yet taken out of its part's mesh.
+constexpr std::int32_t markLost = 2;    ///< Taken out, and the host made no part for it: no mesh has it, whatever its owner is.
 
 using Elements = HeapArray<MeshElement*>;
 
@@ -31,13 +32,32 @@ void VisitNodes(const MeshElement* element, Visit visit) {
 /// Marks each element of the list that stands in a face, and enters it once under that face.
 void GroupByFace(PooledList* elements, IndexedList* byFace) {
   WalkList<MeshElement>(elements, [&](MeshElement* element) {
-    if (!StandsInFace(element) || element->mark == markLeaves) {
+    if (!StandsInFace(element) || (element->mark & markLeaves) != 0) {
       return;
     }
-    element->mark = markLeaves;
+    element->mark |= markLeaves;
     VisitNodes(element, [](MeshNode* node) { node->mark = 1; });
     IndexedListAppend(byFace, IdOf(element->owner), element);
   });
+}
+
+/// Enters the elements of `byFace` under their faces again, in the order of a table by id that was made for `tableSize` records, in which all ids below 1
+/// count as 0; those that are in no mesh are left out. All at once: a table for each face would cost as much as the list is long, for each of its
+/// faces.
+void SortByTable(const IndexedList& byFace, std::int32_t tableSize, IndexedList* sorted) {
+  Elements elements(static_cast<std::size_t>(byFace.size));
+  std::size_t count = 0;
+  WalkIndexedList<MeshElement>(&byFace, [&](MeshElement* element) {
+    if (count < elements.size()) {
+      elements[count++] = element;
+    }
+  });
+  SortByBucket(&elements, (tableSize + 1) | 1, [](const MeshElement* element) { return element->id > 0 ? element->id : 0; });
+  for (MeshElement* element : elements) {
+    if ((element->mark & markLost) == 0) {
+      IndexedListAppend(sorted, IdOf(element->owner), element);
+    }
+  }
 }
 
 std::size_t LengthOf(const IndexedCell* chain) {
@@ -48,33 +68,39 @@ std::size_t LengthOf(const IndexedCell* chain) {
   return length;
 }
 
-/// The elements of a chain in the order of a table by id that was made for `tableSize` records, in which all ids below 1 count as 0.
-void SortElements(const IndexedCell* chain, std::int32_t tableSize, Elements* elements) {
+void CopyChain(const IndexedCell* chain, Elements* elements) {
   for (MeshElement*& element : *elements) {
     element = static_cast<MeshElement*>(chain->record);
     chain = chain->nextOfId;
   }
-  SortByBucket(elements, (tableSize + 1) | 1, [](const MeshElement* element) { return element->id > 0 ? element->id : 0; });
 }
 
-/// Takes the marked elements out of their mesh, `count` at most, and clears their marks. The walk ends with the last of them: many loads on one large
-/// part must not cost a walk over the whole part each. Returns how many there were.
+/// Takes the marked elements out of their mesh, `count` at most, and clears their marks. Returns how many there were. Many loads on one large part must
+/// not cost a walk over the whole part each: the walk goes on where the one before it ended, unless the host has used the list since, and ends with
+/// the last of the elements.
 std::size_t RemoveMarked(PooledList* meshElements, std::size_t count) {
   std::size_t removed = 0;
-  ListRewind(meshElements);
-  while (removed < count) {
+  int ends = 0;
+  while (removed < count && ends < 2) {
     auto* element = static_cast<MeshElement*>(ListNext(meshElements));
     if (element == nullptr) {
-      break;
-    }
-    if (element->mark == markLeaves) {
+      ++ends;
+      ListRewind(meshElements);
+    } else if (element->mark == markLeaves) {
       element->mark = markStays;
       ListRemoveCurrent(meshElements, element);
       ++removed;
     }
   }
-  ListRewind(meshElements);
   return removed;
+}
+
+void MarkLost(const Elements& removed) {
+  for (MeshElement* element : removed) {
+    if (element->mark == markStays) {
+      element->mark = markLost;
+    }
+  }
 }
 
 /// Puts the elements that were taken out of the old mesh, and their nodes, into the mesh of a new part and makes the part their owner.
@@ -177,38 +203,47 @@ TopoFace* PartFor(TopoFace* face, const Elements& elements, BoundaryStore* bound
   }
   mesh->Rebuild();
   TopoFace* part = SplitOffPart(face, elements);
-  if (part != nullptr) {
-    ReplaceOrAddPartInLoads(face, part, false, boundary);
+  if (part == nullptr) {
+    MarkLost(elements);
+    return nullptr;
   }
+  ReplaceOrAddPartInLoads(face, part, false, boundary);
   return part;
 }
 
 }  // namespace
 
 void CollectLoadParts(PooledList* elements, PooledList* parts, BoundaryStore* boundary) {
-  // By face, each in the order of the list. The faces are met in the order in which the list names them first.
+  if (elements == nullptr || parts == nullptr) {
+    return;
+  }
+  // The faces are met in the order in which the list names them first.
   IndexedList byFace;
+  IndexedList sorted;
   IndexedListInit(&byFace);
+  IndexedListInit(&sorted);
   GroupByFace(elements, &byFace);
+  SortByTable(byFace, elements->size, &sorted);
   WalkIndexedList<MeshElement>(&byFace, [&](const MeshElement* element) {
+    // Looked up by the face of its first element, whose owner has not changed yet.
     TopoFace* face = element->owner;
-    const IndexedCell* chain = IndexedListFind(&byFace, IdOf(face));
-    if (chain == nullptr || chain->record != element) {
+    const IndexedCell* first = IndexedListFind(&byFace, IdOf(face));
+    if (first == nullptr || first->record != element) {
       return;
     }
+    const IndexedCell* chain = IndexedListFind(&sorted, IdOf(face));
     Elements ofFace(LengthOf(chain));
     if (ofFace.size() == 0) {
       return;
     }
-    SortElements(chain, elements->size, &ofFace);
+    CopyChain(chain, &ofFace);
     TopoFace* part = PartFor(face, ofFace, boundary);
-    for (MeshElement* handled : ofFace) {
-      handled->mark = markStays;
-    }
     if (part != nullptr) {
       ListAppend(parts, static_cast<MeshPart*>(part));
     }
   });
+  WalkIndexedList<MeshElement>(&byFace, [](MeshElement* element) { element->mark &= ~markLeaves; });
+  IndexedListClear(&sorted);
   IndexedListClear(&byFace);
 }
 
