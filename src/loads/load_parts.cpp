@@ -10,10 +10,9 @@ namespace btz {
 
 namespace {
 
-// Working marks of elements. Between two calls an element bears the first, or the last for good.
+// Working marks of elements. Between two calls every element bears the first.
 constexpr std::int32_t markStays = 0;
 constexpr std::int32_t markLeaves = 1;  ///< Named by the load, and not yet taken out of its part's mesh.
-constexpr std::int32_t markLost = 2;    ///< Taken out, and the host made no part for it: no mesh has it, whatever its owner is.
 
 using Elements = HeapArray<MeshElement*>;
 
@@ -32,18 +31,17 @@ void VisitNodes(const MeshElement* element, Visit visit) {
 /// Marks each element of the list that stands in a face, and enters it once under that face.
 void GroupByFace(PooledList* elements, IndexedList* byFace) {
   WalkList<MeshElement>(elements, [&](MeshElement* element) {
-    if (!StandsInFace(element) || (element->mark & markLeaves) != 0) {
+    if (!StandsInFace(element) || element->mark == markLeaves) {
       return;
     }
-    element->mark |= markLeaves;
+    element->mark = markLeaves;
     VisitNodes(element, [](MeshNode* node) { node->mark = 1; });
     IndexedListAppend(byFace, IdOf(element->owner), element);
   });
 }
 
-/// Enters the elements of `byFace` under their faces again, in the order of a table by id that was made for `tableSize` records, in which all ids below 1
-/// count as 0; those that are in no mesh are left out. All at once: a table for each face would cost as much as the list is long, for each of its
-/// faces.
+/// Enters the elements of `byFace` under their faces again, in the order of a table by id that is made for `tableSize` records and in which all ids
+/// below 1 count as 0. All at once: a table for each face would cost as much as the list is long, for each of its faces.
 void SortByTable(const IndexedList& byFace, std::int32_t tableSize, IndexedList* sorted) {
   Elements elements(static_cast<std::size_t>(byFace.size));
   std::size_t count = 0;
@@ -54,9 +52,7 @@ void SortByTable(const IndexedList& byFace, std::int32_t tableSize, IndexedList*
   });
   SortByBucket(&elements, (tableSize + 1) | 1, [](const MeshElement* element) { return element->id > 0 ? element->id : 0; });
   for (MeshElement* element : elements) {
-    if ((element->mark & markLost) == 0) {
-      IndexedListAppend(sorted, IdOf(element->owner), element);
-    }
+    IndexedListAppend(sorted, IdOf(element->owner), element);
   }
 }
 
@@ -73,6 +69,17 @@ void CopyChain(const IndexedCell* chain, Elements* elements) {
     element = static_cast<MeshElement*>(chain->record);
     chain = chain->nextOfId;
   }
+}
+
+/// Whether a load that names `count` elements of a face names all that its mesh still holds. The count alone does not tell: elements for which the host
+/// once refused a part stand in no mesh, but the face is still their owner.
+bool AreAllMarked(PooledList* meshElements, std::size_t count) {
+  if (meshElements->size == 0 || static_cast<std::size_t>(meshElements->size) > count) {
+    return false;
+  }
+  bool all = true;
+  WalkList<MeshElement>(meshElements, [&](const MeshElement* element) { all = all && element->mark == markLeaves; });
+  return all;
 }
 
 /// Takes the marked elements out of their mesh, `count` at most, and clears their marks. Returns how many there were. Many loads on one large part must
@@ -93,14 +100,6 @@ std::size_t RemoveMarked(PooledList* meshElements, std::size_t count) {
     }
   }
   return removed;
-}
-
-void MarkLost(const Elements& removed) {
-  for (MeshElement* element : removed) {
-    if (element->mark == markStays) {
-      element->mark = markLost;
-    }
-  }
 }
 
 /// Puts the elements that were taken out of the old mesh, and their nodes, into the mesh of a new part and makes the part their owner.
@@ -194,7 +193,7 @@ TopoFace* PartFor(TopoFace* face, const Elements& elements, BoundaryStore* bound
   if (meshElements == nullptr) {
     return nullptr;
   }
-  if (static_cast<std::size_t>(meshElements->size) == elements.size()) {
+  if (AreAllMarked(meshElements, elements.size())) {
     ListAppend(&LoadPartList, static_cast<MeshPart*>(face));
     return face;
   }
@@ -203,11 +202,9 @@ TopoFace* PartFor(TopoFace* face, const Elements& elements, BoundaryStore* bound
   }
   mesh->Rebuild();
   TopoFace* part = SplitOffPart(face, elements);
-  if (part == nullptr) {
-    MarkLost(elements);
-    return nullptr;
+  if (part != nullptr) {
+    ReplaceOrAddPartInLoads(face, part, false, boundary);
   }
-  ReplaceOrAddPartInLoads(face, part, false, boundary);
   return part;
 }
 
@@ -242,7 +239,7 @@ void CollectLoadParts(PooledList* elements, PooledList* parts, BoundaryStore* bo
       ListAppend(parts, static_cast<MeshPart*>(part));
     }
   });
-  WalkIndexedList<MeshElement>(&byFace, [](MeshElement* element) { element->mark &= ~markLeaves; });
+  WalkIndexedList<MeshElement>(&byFace, [](MeshElement* element) { element->mark = markStays; });
   IndexedListClear(&sorted);
   IndexedListClear(&byFace);
 }
