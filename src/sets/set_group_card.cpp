@@ -13,6 +13,9 @@ namespace btz {
 
 namespace {
 
+/// Ranges up to this length are asked for id by id; longer ones end where nothing more can be found.
+constexpr std::int32_t plainRange = 10'000'000;
+
 /// The numbers of the card, as members of one kind.
 class GroupMembers {
  public:
@@ -128,14 +131,17 @@ bool TakeField(DeckBuffer* file, std::int32_t width, GroupMembers* numbers) {
       return false;
     }
   }
-  const char* before = *cursor;
+  if (**cursor == '\n') {
+    // What was seen is the head of the next line, without a mark in front of it: it is read from there.
+    ++*cursor;
+    return true;
+  }
   std::int32_t value = 0;
   ReadIntField(width, cursor, &value);
   if (value != 0) {
     numbers->Take(value);
   }
-  // A number at the very head of the next line is no continuation: the card has ended.
-  return *cursor != before;
+  return true;
 }
 
 /// Names the set by the comment for its id, or by the name that was found above the card.

@@ -30,12 +30,9 @@ class NumberList {
     ListAppend(element->typeIndex == elementRigid ? &members.rigidElements : &members.elements, element);
   }
 
-  /// Takes a range. Once a node and an element are missing no set comes of the list, and the rest of a very long range has nothing to add.
+  /// Takes a range. Once a node and an element are missing no set comes of the list, and the rest of the range has nothing to add.
   void TakeRange(std::int32_t first, std::int32_t last) {
-    for (std::int64_t id = first; id <= last; ++id) {
-      if (nodeMissing && elementMissing && id - first >= plainRange) {
-        return;
-      }
+    for (std::int64_t id = first; id <= last && !(nodeMissing && elementMissing); ++id) {
       Take(static_cast<std::int32_t>(id));
     }
   }
