@@ -316,6 +316,15 @@ TEST_F(SetListCardTest, ACommentThatSpeaksOfThruIsARange) {
   EXPECT_THAT(Sets(), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3 3"));
 }
 
+// Required: so is a card behind the list whose first token speaks of a range.
+TEST_F(SetListCardTest, ACardBehindTheListThatBeginsWithARangeIsEaten) {
+  MakeNodes({1, 2, 3});
+  EXPECT_EQ(List("SET 7 = 1, 2\nSET 8 = 1 THRU 3\nNEXT\n"), "NEXT\n");
+  EXPECT_THAT(Calls(), IsEmpty());
+  EXPECT_EQ(List("SET 7 = 1, 2\nSET 8 = 3, 1 THRU 3\nNEXT\n"), "SET 8 = 3, 1 THRU 3\nNEXT\n");
+  EXPECT_THAT(Sets(), ElementsAre("kind 0 of type 5 \"Name\": 1 2"));
+}
+
 TEST_F(SetListCardTest, CarriageReturnsDoNotMatter) {
   MakeNodes({1, 2, 3, 4, 5});
   EXPECT_EQ(List("SET 7 = 1, 2,\r\n3 THRU 4,\r\n 5\r\nNEXT\r\n"), "NEXT\r\n");
