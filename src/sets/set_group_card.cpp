@@ -82,22 +82,21 @@ struct GroupHead {
   bool isElementSet = false;
 };
 
-/// Takes the first line; false when the deck ends with it.
-bool TakeHead(CardCursor* cursor, std::int32_t width, GroupHead* head) {
+/// Takes the first line.
+GroupHead TakeHead(CardCursor* cursor, std::int32_t width) {
   char line[512];
-  if (ReadDeckLine(cursor, line, sizeof(line)) < 0) {
-    return false;
-  }
+  ReadDeckLine(cursor, line, sizeof(line));
   CardCursor at = line;
   Advance(&at, 8);
-  head->setId = ParseInteger(at);
+  GroupHead head;
+  head.setId = ParseInteger(at);
   Advance(&at, width);
   FieldText kind;
   PeekField(width, at, kind);
   TrimField(kind);
-  head->isNodeSet = CompareNoCase(kind, "GRID") == 0;
-  head->isElementSet = CompareNoCase(kind, "ELEM") == 0;
-  return true;
+  head.isNodeSet = CompareNoCase(kind, "GRID") == 0;
+  head.isElementSet = CompareNoCase(kind, "ELEM") == 0;
+  return head;
 }
 
 /// Takes one field; false at the end of the card.
@@ -163,8 +162,8 @@ void ReadSetGroupCard(DeckBuffer* file, MeshModel* model, BoundaryStore* boundar
     return;
   }
   const std::int32_t width = FieldWidthFor(file->cursor, "SET*");
-  GroupHead head;
-  if (!TakeHead(&file->cursor, width, &head) || (!head.isNodeSet && !head.isElementSet)) {
+  const GroupHead head = TakeHead(&file->cursor, width);
+  if (!head.isNodeSet && !head.isElementSet) {
     return;
   }
   GroupMembers numbers(model, head.isNodeSet);

@@ -117,7 +117,6 @@ void TakeTokens(DeckBuffer* file, NumberList* numbers) {
       }
       continue;
     }
-    TrimField(token);
     if (token[0] != 0 && !TakeToken(token, numbers)) {
       while (IsSpace(*start)) {
         ++start;

@@ -206,6 +206,7 @@ TEST_F(SetGroupCardTest, EachRangeStartsAnew) {
   EXPECT_THAT(NodeSetOf("1|2|THRU|4|8"), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3 4 8"));
   EXPECT_THAT(NodeSetOf("1|THRU|THRU|3"), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3"));
   EXPECT_THAT(NodeSetOf("1|THRU|0|3"), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3"));
+  EXPECT_THAT(NodeSetOf("1|THRU|3|THRU|5"), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3 5"));
   EXPECT_THAT(NodeSetOf("4|THRU|4|6"), ElementsAre("kind 0 of type 5 \"Name\": 4 6"));
 }
 
@@ -385,6 +386,20 @@ TEST_F(SetGroupCardTest, LargeFields) {
   EXPECT_EQ(Group(Large("SET*|7|GRID") + Large("*|1|THRU") + Large("*A|3|5") + "NEXT\n"), "\nNEXT\n");
   EXPECT_THAT(Sets(), ElementsAre("kind 0 of type 5 \"Name\": 1 2 3 5"));
   EXPECT_THAT(Filed(7), ElementsAre(1));
+}
+
+TEST_F(SetGroupCardTest, LargeFieldsAreLookedAtWhole) {
+  MakeNodes({1000, 1000000001});
+  Group(Large("SET*|              7|            GRID") + Large("*||    1000000001|"));
+  EXPECT_THAT(Sets(), ElementsAre("kind 0 of type 5 \"Name\": 1000000001"));
+  EXPECT_THAT(Filed(7), ElementsAre(1));
+}
+
+// Required: a plus sign is stepped over with the width of a field, and half of the first field with it.
+TEST_F(SetGroupCardTest, APlusSignInFrontOfLargeFieldsCostsHalfOfTheFirst) {
+  MakeNodes({1, 2, 3});
+  Group(Large("SET*|7|GRID") + Large("+|1|2") + Large("*|3"));
+  EXPECT_THAT(Sets(), ElementsAre("kind 0 of type 5 \"Name\": 2 3"));
 }
 
 TEST_F(SetGroupCardTest, ACardWithCommasIsDropped) {
