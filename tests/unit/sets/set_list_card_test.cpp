@@ -168,7 +168,7 @@ TEST_F(SetListCardTest, TheIdStandsInFrontOfTheEqualsSign) {
   for (const char* text :
        {"SET12=1\n", "SET 12=1\n", "SET 12 = 1\n", "SET   12   =   1\n", "SET 12 x = 1\n", "SET\t12\t=\t1\n", "SET +12 = 1\n"}) {
     List(text);
-    EXPECT_THAT(Filed(12), testing::SizeIs(1)) << text;
+    ASSERT_THAT(Filed(12), testing::SizeIs(1)) << text;
     ListClear(&FindLoadSet(12, namedSet)->items);
   }
 }
