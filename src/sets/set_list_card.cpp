@@ -90,7 +90,7 @@ std::int32_t TakeListId(CardCursor* cursor) {
 /// False when the token ends the list.
 /// Required: a following card or comment that has "thru" in its first token is a range as well. It begins at no number, which is 0, and there is no
 /// node or element of that id: the sets of the list are lost, and the card is eaten.
-bool TakeToken(char* token, NumberList* numbers) {
+bool TakeToken(const char* token, NumberList* numbers) {
   if (!LooksLikeText(token)) {
     const std::int32_t id = ParseInteger(token);
     if (id != 0) {
