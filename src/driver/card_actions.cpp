@@ -37,7 +37,6 @@ void TakeAssignment(CardContext& context, std::int32_t* value) {
 /// Name of the set or surface at the cursor: that of the comment above it, or the next running number.
 void NameSet(CardContext& context) {
   RunState& run = context.run;
-  run.setName[0] = 0;
   ReadCommentAboveCard(context.file.cursor, run.setName);
   if (run.setName[0] == 0) {
     FormatNumbered(run.setName, sizeof(run.setName), "Set", run.names.set++);

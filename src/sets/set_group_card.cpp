@@ -13,6 +13,9 @@ namespace btz {
 
 namespace {
 
+/// Ranges up to this length are asked for id by id; longer ones end where nothing more can be found.
+constexpr std::int32_t plainRange = 10'000'000;
+
 /// The numbers of the card, as members of one kind.
 class GroupMembers {
  public:
@@ -79,22 +82,21 @@ struct GroupHead {
   bool isElementSet = false;
 };
 
-/// Takes the first line; false when the deck ends with it.
-bool TakeHead(CardCursor* cursor, std::int32_t width, GroupHead* head) {
+/// Takes the first line.
+GroupHead TakeHead(CardCursor* cursor, std::int32_t width) {
   char line[512];
-  if (ReadDeckLine(cursor, line, sizeof(line)) < 0) {
-    return false;
-  }
+  ReadDeckLine(cursor, line, sizeof(line));
   CardCursor at = line;
   Advance(&at, 8);
-  head->setId = ParseInteger(at);
+  GroupHead head;
+  head.setId = ParseInteger(at);
   Advance(&at, width);
   FieldText kind;
   PeekField(width, at, kind);
   TrimField(kind);
-  head->isNodeSet = CompareNoCase(kind, "GRID") == 0;
-  head->isElementSet = CompareNoCase(kind, "ELEM") == 0;
-  return true;
+  head.isNodeSet = CompareNoCase(kind, "GRID") == 0;
+  head.isElementSet = CompareNoCase(kind, "ELEM") == 0;
+  return head;
 }
 
 /// Takes one field; false at the end of the card.
@@ -128,14 +130,17 @@ bool TakeField(DeckBuffer* file, std::int32_t width, GroupMembers* numbers) {
       return false;
     }
   }
-  const char* before = *cursor;
+  if (**cursor == '\n') {
+    // What was seen is the head of the next line, without a mark in front of it: it is read from there.
+    ++*cursor;
+    return true;
+  }
   std::int32_t value = 0;
   ReadIntField(width, cursor, &value);
   if (value != 0) {
     numbers->Take(value);
   }
-  // A number at the very head of the next line is no continuation: the card has ended.
-  return *cursor != before;
+  return true;
 }
 
 /// Names the set by the comment for its id, or by the name that was found above the card.
@@ -157,8 +162,8 @@ void ReadSetGroupCard(DeckBuffer* file, MeshModel* model, BoundaryStore* boundar
     return;
   }
   const std::int32_t width = FieldWidthFor(file->cursor, "SET*");
-  GroupHead head;
-  if (!TakeHead(&file->cursor, width, &head) || (!head.isNodeSet && !head.isElementSet)) {
+  const GroupHead head = TakeHead(&file->cursor, width);
+  if (!head.isNodeSet && !head.isElementSet) {
     return;
   }
   GroupMembers numbers(model, head.isNodeSet);

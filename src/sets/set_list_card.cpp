@@ -30,12 +30,9 @@ class NumberList {
     ListAppend(element->typeIndex == elementRigid ? &members.rigidElements : &members.elements, element);
   }
 
-  /// Takes a range. Once a node and an element are missing no set comes of the list, and the rest of a very long range has nothing to add.
+  /// Takes a range. Once a node and an element are missing no set comes of the list, and the rest of the range has nothing to add.
   void TakeRange(std::int32_t first, std::int32_t last) {
-    for (std::int64_t id = first; id <= last; ++id) {
-      if (nodeMissing && elementMissing && id - first >= plainRange) {
-        return;
-      }
+    for (std::int64_t id = first; id <= last && !(nodeMissing && elementMissing); ++id) {
       Take(static_cast<std::int32_t>(id));
     }
   }
@@ -91,7 +88,9 @@ std::int32_t TakeListId(CardCursor* cursor) {
 }
 
 /// False when the token ends the list.
-bool TakeToken(char* token, NumberList* numbers) {
+/// Required: a following card or comment that has "thru" in its first token is a range as well. It begins at no number, which is 0, and there is no
+/// node or element of that id: the sets of the list are lost, and the card is eaten.
+bool TakeToken(const char* token, NumberList* numbers) {
   if (!LooksLikeText(token)) {
     const std::int32_t id = ParseInteger(token);
     if (id != 0) {
@@ -118,7 +117,6 @@ void TakeTokens(DeckBuffer* file, NumberList* numbers) {
       }
       continue;
     }
-    TrimField(token);
     if (token[0] != 0 && !TakeToken(token, numbers)) {
       while (IsSpace(*start)) {
         ++start;

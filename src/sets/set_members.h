@@ -6,9 +6,6 @@
 
 namespace btz {
 
-/// Ranges up to this length are asked for id by id; longer ones end where nothing more can be found.
-inline constexpr std::int64_t plainRange = 10'000'000;
-
 /// Lists of members, with cells of their own.
 class SetMembers {
  public:
