@@ -40,6 +40,22 @@ void GroupByFace(PooledList* elements, IndexedList* byFace) {
   });
 }
 
+/// Enters the elements of `byFace` in `sorted`, by face again, but in the order of a table by id that is made for `tableSize` records and in which all
+/// ids below 1 count as 0. All at once: a sort of its own for each face would walk as many buckets as the list is long.
+void SortByTable(const IndexedList& byFace, std::int32_t tableSize, IndexedList* sorted) {
+  Elements elements(static_cast<std::size_t>(byFace.size));
+  std::size_t count = 0;
+  WalkIndexedList<MeshElement>(&byFace, [&](MeshElement* element) {
+    if (count < elements.size()) {
+      elements[count++] = element;
+    }
+  });
+  SortByBucket(&elements, (tableSize + 1) | 1, [](const MeshElement* element) { return element->id > 0 ? element->id : 0; });
+  for (MeshElement* element : elements) {
+    IndexedListAppend(sorted, IdOf(element->owner), element);
+  }
+}
+
 std::size_t LengthOf(const IndexedCell* chain) {
   std::size_t length = 0;
   for (; chain != nullptr; chain = chain->nextOfId) {
@@ -48,13 +64,11 @@ std::size_t LengthOf(const IndexedCell* chain) {
   return length;
 }
 
-/// The elements of a chain in the order of a table by id that was made for `tableSize` records, in which all ids below 1 count as 0.
-void SortElements(const IndexedCell* chain, std::int32_t tableSize, Elements* elements) {
+void CopyChain(const IndexedCell* chain, Elements* elements) {
   for (MeshElement*& element : *elements) {
     element = static_cast<MeshElement*>(chain->record);
     chain = chain->nextOfId;
   }
-  SortByBucket(elements, (tableSize + 1) | 1, [](const MeshElement* element) { return element->id > 0 ? element->id : 0; });
 }
 
 /// Takes the marked elements out of their mesh, `count` at most, and clears their marks. The walk ends with the last of them: many loads on one large
@@ -186,29 +200,32 @@ TopoFace* PartFor(TopoFace* face, const Elements& elements, BoundaryStore* bound
 }  // namespace
 
 void CollectLoadParts(PooledList* elements, PooledList* parts, BoundaryStore* boundary) {
-  // By face, each in the order of the list. The faces are met in the order in which the list names them first.
+  if (elements == nullptr || parts == nullptr) {
+    return;
+  }
+  // The faces are met in the order in which the list names them first.
   IndexedList byFace;
   IndexedListInit(&byFace);
   GroupByFace(elements, &byFace);
+  IndexedList sorted;
+  IndexedListInit(&sorted);
+  SortByTable(byFace, elements->size, &sorted);
   WalkIndexedList<MeshElement>(&byFace, [&](const MeshElement* element) {
     TopoFace* face = element->owner;
-    const IndexedCell* chain = IndexedListFind(&byFace, IdOf(face));
-    if (chain == nullptr || chain->record != element) {
+    const IndexedCell* first = IndexedListFind(&byFace, IdOf(face));
+    if (first == nullptr || first->record != element) {
       return;
     }
+    const IndexedCell* chain = IndexedListFind(&sorted, IdOf(face));
     Elements ofFace(LengthOf(chain));
-    if (ofFace.size() == 0) {
-      return;
-    }
-    SortElements(chain, elements->size, &ofFace);
-    TopoFace* part = PartFor(face, ofFace, boundary);
-    for (MeshElement* handled : ofFace) {
-      handled->mark = markStays;
-    }
+    CopyChain(chain, &ofFace);
+    TopoFace* part = ofFace.size() == 0 ? nullptr : PartFor(face, ofFace, boundary);
     if (part != nullptr) {
       ListAppend(parts, static_cast<MeshPart*>(part));
     }
   });
+  WalkIndexedList<MeshElement>(&byFace, [](MeshElement* element) { element->mark = markStays; });
+  IndexedListClear(&sorted);
   IndexedListClear(&byFace);
 }
 
