@@ -9,23 +9,10 @@
 namespace btz {
 namespace {
 
+using test::ExpectedSplit;
 using test::Ids;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-using Calls = std::vector<std::string>;
-
-/// The calls that split a new part off.
-Calls SplitCalls(const std::string& oldMesh, const std::string& id, const std::string& body, const std::string& face,
-                 const std::string& newMesh) {
-  return {oldMesh + ".Rebuild()",
-          "MeshModel.CreatePart(2, " + id + ", " + body + ") -> " + face,
-          body + ".RegisterChildPart(" + id + ", 1, 0)",
-          newMesh + ".Rebuild()",
-          face + ".UpdateBounds()",
-          face + ".SetVisible(0)",
-          face + ".Finish()"};
-}
 
 class LoadParts : public test::PressuresTest {
  protected:
@@ -89,7 +76,7 @@ TEST_F(LoadParts, OfSomeElementsAreANewPart) {
   MakeTriangles({1, 2, 3}, 7);
   TopoFace* old = Shell(1)->owner;
   CollectShells({2});
-  EXPECT_EQ(Calls(), SplitCalls("FaceMesh#1", "8", "MeshPart#1", "TopoFace#2", "FaceMesh#2"));
+  EXPECT_EQ(Calls(), ExpectedSplit("FaceMesh#1", "8", "MeshPart#1", "TopoFace#2", "FaceMesh#2"));
   EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{2}}));
   EXPECT_EQ(PartsOf(&LoadPartList), (std::vector<Ids>{{2}})) << "the old part is not listed";
   EXPECT_EQ(ElementsOf(old), (Ids{1, 3}));
@@ -156,7 +143,7 @@ TEST_F(LoadParts, OfElementsOfSeveralPartsComeInTheOrderInWhichTheListNamesThem)
   MakeTriangles({3, 4}, 8);
   MakeTriangles({5}, 9);
   CollectShells({4, 2, 5, 1});
-  EXPECT_EQ(Calls(), SplitCalls("FaceMesh#1", "10", "MeshPart#2", "TopoFace#4", "FaceMesh#2"));
+  EXPECT_EQ(Calls(), ExpectedSplit("FaceMesh#1", "10", "MeshPart#2", "TopoFace#4", "FaceMesh#2"));
   EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{4}, {1, 2}, {5}}));
   EXPECT_EQ(PartsOf(&LoadPartList), (std::vector<Ids>{{4}, {1, 2}, {5}}));
 }
@@ -168,7 +155,7 @@ TEST_F(LoadParts, APartThatWasSplitOffIsSplitAgain) {
   ListClear(&parts);
   CollectShells({2, 4});
   // Element 4 is all that the old part still has; 5 buckets do not matter for one element.
-  EXPECT_EQ(Calls(), SplitCalls("FaceMesh#2", "9", "MeshPart#1", "TopoFace#3", "FaceMesh#3"));
+  EXPECT_EQ(Calls(), ExpectedSplit("FaceMesh#2", "9", "MeshPart#1", "TopoFace#3", "FaceMesh#3"));
   EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{2}, {4}}));
   EXPECT_EQ(ElementsOf(Shell(1)->owner), (Ids{1, 3}));
 }
@@ -185,7 +172,7 @@ TEST_F(LoadParts, OfFacesOfSolidsComeOutOfTheSkin) {
   MeshElement* tetra = Make(30, elementTetra4, {1, 2, 3, 4}, 9);
   MakeFaces();
   Collect({tetra->faces[3], tetra->faces[1]});
-  EXPECT_EQ(Calls(), SplitCalls("FaceMesh#1", "10", "MeshPart#1", "TopoFace#2", "FaceMesh#2"));
+  EXPECT_EQ(Calls(), ExpectedSplit("FaceMesh#1", "10", "MeshPart#1", "TopoFace#2", "FaceMesh#2"));
   ASSERT_EQ(parts.size, 1);
   EXPECT_EQ(tetra->faces[1]->owner, tetra->faces[3]->owner);
   EXPECT_NE(tetra->faces[0]->owner, tetra->faces[1]->owner);

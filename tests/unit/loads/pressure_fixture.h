@@ -21,6 +21,18 @@ namespace btz::test {
 
 using Ids = std::vector<std::int32_t>;
 
+/// The calls that split a new part off.
+inline std::vector<std::string> ExpectedSplit(const std::string& oldMesh, const std::string& id, const std::string& body,
+                                              const std::string& face, const std::string& newMesh) {
+  return {oldMesh + ".Rebuild()",
+          "MeshModel.CreatePart(2, " + id + ", " + body + ") -> " + face,
+          body + ".RegisterChildPart(" + id + ", 1, 0)",
+          newMesh + ".Rebuild()",
+          face + ".UpdateBounds()",
+          face + ".SetVisible(0)",
+          face + ".Finish()"};
+}
+
 class PressuresTest : public MeshTest {
  protected:
   PressuresTest() { ListInit(&parts, &ListPool); }
