@@ -340,6 +340,35 @@ TEST_F(LoadParts, ARefusedPartLeavesTheNextOneAlone) {
   EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{3}}));
 }
 
+// The face is still the owner of what it lost, but can't give it to a later load.
+TEST_F(LoadParts, ElementsWithoutAPartAreNotLoadedLater) {
+  MakeTriangles({1, 2, 3, 4}, 7);
+  host.Refusals().RefuseCall("MeshModel.CreatePart", 1);
+  CollectShells({2});
+  host.Refusals().Clear();
+  trace.clear();
+  CollectShells({2});
+  EXPECT_THAT(Calls(), IsEmpty());
+  EXPECT_EQ(parts.size, 0);
+  CollectShells({4, 2, 1});  // as many as the face still has, but not the same
+  EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{1, 4}}));
+  ListClear(&parts);
+  CollectShells({2, 3});
+  EXPECT_EQ(PartsOf(&parts), (std::vector<Ids>{{3}}));
+}
+
+TEST_F(LoadParts, AFaceWithAnEmptyMeshIsNoPartOfALoad) {
+  MakeTriangles({1}, 7);
+  FaceMesh* mesh = nullptr;
+  Shell(1)->owner->GetMesh(&mesh);
+  PooledList* held = nullptr;
+  mesh->GetElements(&held);
+  ListClear(held);
+  CollectShells({1});
+  EXPECT_THAT(Calls(), IsEmpty());
+  EXPECT_EQ(parts.size, 0);
+}
+
 TEST_F(LoadParts, ANewPartWithoutAMeshIsFinishedAllTheSame) {
   MakeTriangles({1, 2}, 7);
   host.Refusals().RefuseCall("TopoFace.GetMesh", 2);
