@@ -85,6 +85,19 @@ inline std::vector<std::string> Joined(const std::vector<std::vector<std::string
   return all;
 }
 
+/// A host with its trace beside that of the fixture.
+struct SecondHost {
+  SecondHost() {
+    host.GetProject()->GetMeshModel(&model, 1);
+    host.SetTrace(&sink);
+  }
+
+  std::string trace;
+  TraceSink sink{&trace};
+  MemoryHost host;
+  MeshModel* model = nullptr;
+};
+
 class ForcesTest : public MeshTest {
  protected:
   void MakeNode(std::int32_t id, double x, double y = 0.0, double z = 0.0) {
