@@ -144,6 +144,13 @@ TEST_F(PressureCards, TheKeywordFieldHasEightColumnsWhateverIsInIt) {
   EXPECT_EQ(CardOf("PLOAD4\n 5       10      2.0\n"), "e10 - - (2 0 0 0)");
 }
 
+// Required: commas do not count, so this card has neither a set nor an element, and its values come from the next line.
+TEST_F(PressureCards, CommasAreNoFields) {
+  EXPECT_EQ(Read("PLOAD4,5,10,2.0\n3.0\nGRID"), "\nGRID");
+  EXPECT_EQ(Set(5), nullptr);
+  EXPECT_THAT(Cards(0), ElementsAre("- - - (3 0 0 0)"));
+}
+
 // Required: equal values at the other corners give way to the first, blank or not.
 TEST_F(PressureCards, EqualValuesBehindTheFirstGiveWayToIt) {
   EXPECT_EQ(CardOf(Small("PLOAD4|5|20|2.0|5.0|5.0|5.0|1|3")), "e20 n1 n3 (2 2 2 2)");

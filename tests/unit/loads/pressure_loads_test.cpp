@@ -323,9 +323,6 @@ class SolidPressures : public PressureLoads {
     MakeFaces();
     Create();
     std::vector<Ids> faces;
-    if (host.Boundary().pressures.empty()) {
-      return faces;
-    }
     WalkList<MeshPart>(ListOfPressure(1), [&](MeshPart* part) {
       FaceMesh* mesh = nullptr;
       static_cast<TopoFace*>(part)->GetMesh(&mesh);
