@@ -138,7 +138,6 @@ void AddCard(MeshModel* model, const Pload4& card, PressureSetRecord* set) {
   }
   (set->last == nullptr ? set->first : set->last->next) = added;
   set->last = added;
-  ++set->cardCount;
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ struct PressureStage {
   ListCellPool cells;
 };
 
-/// Rows of a field. There is room for as many as the set's faces have corners.
+/// Rows of a field. There is room for as many as the set's cards have values.
 class Rows {
  public:
   explicit Rows(std::size_t most) : values_(most * rowLength) {}
@@ -55,11 +55,9 @@ class Rows {
   std::int32_t count_ = 0;
 };
 
-constexpr std::size_t mostCorners = 4;
+constexpr std::int32_t valueCount = 4;  ///< Values of a card.
 
-std::int32_t CornersOf(const MeshElement* face) {
-  return std::min<std::int32_t>(TopologyOf(ElementCornerCount, face->typeIndex), mostCorners);
-}
+std::int32_t CornersOf(const MeshElement* face) { return TopologyOf(ElementCornerCount, face->typeIndex); }
 
 void MarkNodes(const MeshElement* face, std::int32_t count, std::int32_t mark) {
   for (std::int32_t i = 0; i < count; ++i) {
@@ -80,7 +78,8 @@ void AddRows(const MeshElement* face, const CornerValues& values, std::int32_t f
     return;
   }
   const std::int32_t corners = CornersOf(face);
-  for (std::int32_t i = 0; i < corners; ++i) {
+  // A solid that came into a set of shells has more corners than the card has values.
+  for (std::int32_t i = 0; i < std::min(corners, valueCount); ++i) {
     const MeshNode* node = face->nodes[(first + i) % corners];
     if (node != nullptr && node->mark != markedNode) {
       rows->Add(node->position, values[i]);
@@ -210,7 +209,7 @@ void CreatePressureOfSet(PressureStage* stage, PressureSetRecord* set) {
   bool goesOn = true;
   if (set->mixed != 0) {
     set->pressure = 1.0;
-    Rows rows(CountCards(*set) * mostCorners);
+    Rows rows(CountCards(*set) * std::size_t{valueCount});
     if (set->isShell != 0) {
       AddShellRows(*set, &rows);
     } else {

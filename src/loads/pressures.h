@@ -30,7 +30,6 @@ struct PressureSetRecord {
   std::uint8_t isShell;  ///< 1 when the latest card had neither G1 nor G3. Required: the last card decides for the whole set.
   PressureCard* first;   ///< Cards of the set, in order.
   PressureCard* last;
-  std::int32_t cardCount;
 };
 
 inline IndexedList PressureSetTable;  ///< PressureSetRecord by set id.

@@ -48,6 +48,14 @@ inline std::vector<std::string> ExpectedField(const std::string& number, const s
           object + ".SetRowCount(" + rowCount + ")", object + ".SetRows([" + rows + "])"};
 }
 
+/// What a reader left of a text, which it may not have changed nor left.
+inline std::string RestOf(const DeckText& text, const std::string& content) {
+  EXPECT_EQ(text.Bytes(), content);
+  EXPECT_TRUE(text.IsUntouchedBehind());
+  EXPECT_LE(text.Place(), content.size());
+  return std::string(text.Rest());
+}
+
 /// Reads a card cut behind each byte from `first` on.
 template <typename Read>
 void ReadCutAnywhere(const std::string& card, std::size_t first, Read read) {
@@ -77,6 +85,19 @@ inline std::vector<std::string> Joined(const std::vector<std::vector<std::string
   return all;
 }
 
+/// A host with its trace beside that of the fixture.
+struct SecondHost {
+  SecondHost() {
+    host.GetProject()->GetMeshModel(&model, 1);
+    host.SetTrace(&sink);
+  }
+
+  std::string trace;
+  TraceSink sink{&trace};
+  MemoryHost host;
+  MeshModel* model = nullptr;
+};
+
 class ForcesTest : public MeshTest {
  protected:
   void MakeNode(std::int32_t id, double x, double y = 0.0, double z = 0.0) {
@@ -90,13 +111,13 @@ class ForcesTest : public MeshTest {
   std::string ReadForce(const std::string& content, const char* name = "") {
     DeckText text(content);
     ReadForceCard(&text.cursor, model, forceReference, name, ++forceCards);
-    return Checked(text, content);
+    return RestOf(text, content);
   }
 
   std::string ReadMoment(const std::string& content, const char* name = "") {
     DeckText text(content);
     ReadMomentCard(&text.cursor, model, momentReference, name, ++momentCards);
-    return Checked(text, content);
+    return RestOf(text, content);
   }
 
   /// A card in small fields with the scale 1: `Force("7|10|0|1.0|2.0|3.0")`.
@@ -132,13 +153,6 @@ class ForcesTest : public MeshTest {
   std::int32_t pointForceNumber = 1;
 
  private:
-  static std::string Checked(const DeckText& text, const std::string& content) {
-    EXPECT_EQ(text.Bytes(), content);
-    EXPECT_TRUE(text.IsUntouchedBehind());
-    EXPECT_LE(text.Place(), content.size());
-    return std::string(text.Rest());
-  }
-
   /// Set, node and system, the scale, and the components behind it.
   static std::string CardOf(const char* keyword, const std::string& fields) {
     std::size_t at = 0;

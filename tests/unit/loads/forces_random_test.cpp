@@ -10,19 +10,6 @@
 namespace btz {
 namespace {
 
-/// A host with its trace beside that of the fixture.
-struct SecondHost {
-  SecondHost() {
-    host.GetProject()->GetMeshModel(&model, 1);
-    host.SetTrace(&sink);
-  }
-
-  std::string trace;
-  TraceSink sink{&trace};
-  MemoryHost host;
-  MeshModel* model = nullptr;
-};
-
 class RandomForces : public test::ForcesTest {
  protected:
   std::uint32_t Below(std::uint32_t limit) { return random() % limit; }
@@ -33,7 +20,7 @@ class RandomForces : public test::ForcesTest {
   }
 
   /// Nodes of few places and of ids that share buckets, in both hosts.
-  void MakeMesh(SecondHost& second) {
+  void MakeMesh(test::SecondHost& second) {
     static constexpr double places[] = {0.0, -0.0, 1.0, 2.0, 1e-170, 1e-150, 5.0};
     const std::uint32_t spread = 2 + Below(5);
     for (std::int32_t id = 1; id <= 40; ++id) {
@@ -115,11 +102,11 @@ TEST_F(RandomForces, GiveTheCallsOfThePlainWay) {
       forceReference[i] = 0.0;
       momentReference[i] = 0.0;
     }
-    SecondHost first;
-    SecondHost second;
+    test::SecondHost first;
+    test::SecondHost second;
     model = first.model;
     MakeMesh(second);
-    for (SecondHost* each : {&first, &second}) {
+    for (test::SecondHost* each : {&first, &second}) {
       if (round % 3 == 1) {
         each->host.Refusals().RefuseCall("BoundaryStore.CreateForce", 1 + static_cast<std::int32_t>(round % 4));
         each->host.Refusals().RefuseCall("CurveStore.CreateField", 1 + static_cast<std::int32_t>(round % 3));
