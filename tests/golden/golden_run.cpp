@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <deque>
 #include <fstream>
 #include <iterator>
 #include <string_view>
@@ -86,6 +87,13 @@ std::string WithoutTimes(std::string log) {
   return log;
 }
 
+/// A host that stays to the end of the process, as the models of a pre-processor do. The library knows loaded parts of earlier runs by their addresses,
+/// and a new part must not get one of these.
+MemoryHost& NewHost() {
+  static std::deque<MemoryHost> hosts;
+  return hosts.emplace_back();
+}
+
 Output Run(const GoldenCase& golden, const RunOptions& options, const std::filesystem::path& folder) {
   const std::filesystem::path logPath = folder / "Bdf_Reader_Log.txt";
   std::error_code error;
@@ -95,7 +103,7 @@ Output Run(const GoldenCase& golden, const RunOptions& options, const std::files
 
   Output output;
   TraceSink sink(&output.trace, options.isEveryCallTraced ? TraceSink::Coverage::All : TraceSink::Coverage::Changes);
-  MemoryHost host;
+  MemoryHost& host = NewHost();
   host.SetTrace(&sink);
   host.SetFaultHandler([&](const std::string& message) { output.fault += message + "\n"; });
   const std::string deck = ToUtf8(golden.deck);
@@ -104,6 +112,8 @@ Output Run(const GoldenCase& golden, const RunOptions& options, const std::files
                    options.splitFaceValue, options.earlyTopology, options.thicknessPrecision, options.targetSolver,
                    options.hasGroupStore ? host.GetGroupStore() : nullptr, options.repairMesh, options.splitFaceRepair);
   host.FinishTrace(result);
+  host.SetTrace(nullptr);
+  host.SetFaultHandler(nullptr);
   output.log = WithoutTimes(WithoutCarriageReturns(ReadFile(logPath)));
   return output;
 }

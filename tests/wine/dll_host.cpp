@@ -8,6 +8,7 @@
 #include <btz/bdf_to_zel.h>
 
 #include <cstdio>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -66,7 +67,9 @@ bool Run(EntryPoint translate, const char* deck, const btz::golden::RunOptions& 
     return false;
   }
   btz::TraceSink sink(file, options.isEveryCallTraced ? btz::TraceSink::Coverage::All : btz::TraceSink::Coverage::Changes);
-  btz::MemoryHost host;
+  // Hosts stay: the library knows loaded parts of earlier runs by their addresses.
+  static std::deque<btz::MemoryHost> hosts;
+  btz::MemoryHost& host = hosts.emplace_back();
   host.SetTrace(&sink);
   if (progress != nullptr) {
     host.SetHook([progress](const char*, const char*) { progress->Sample(); });
@@ -79,6 +82,8 @@ bool Run(EntryPoint translate, const char* deck, const btz::golden::RunOptions& 
     progress->Sample();
   }
   host.FinishTrace(result);
+  host.SetTrace(nullptr);
+  host.SetHook(nullptr);
   return std::fclose(file) == 0;
 }
 

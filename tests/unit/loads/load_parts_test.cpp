@@ -265,7 +265,7 @@ TEST_F(LoadParts, TheNewMeshGetsTheNodesOfEachElement) {
   host.SetHook([&](const char* /*type*/, const char* operation) {
     if (std::string(operation) == "Rebuild") {
       nodes.emplace_back();
-      for (const MeshNode* node : host.Model().bodies[0].madeFaces.back()->mesh.nodes.As<MeshNode>()) {
+      for (const MeshNode* node : host.Model().bodies[0].madeFaces.back()->mesh.Nodes().As<MeshNode>()) {
         nodes.back().push_back(node->id);
       }
     }
