@@ -18,7 +18,7 @@ struct Pload4 {
   std::int32_t nodeIds[2] = {};
 };
 
-/// Reads P1 to P4. False when the card ends behind P1: the other values stay 0 then.
+/// Reads P1 to P4. False when the line ends behind P1. Required: the other values stay 0 then, although blanks in their place make them equal to P1.
 bool ReadCornerValues(CardCursor* cursor, std::int32_t width, CornerValues& values) {
   if (**cursor == '\n') {
     ++*cursor;
@@ -37,7 +37,8 @@ bool ReadCornerValues(CardCursor* cursor, std::int32_t width, CornerValues& valu
   return true;
 }
 
-/// What the field of a node is, for a walk in which every mark of a continuation line counts as one and THRU ends the card.
+/// What the field of a node is. Required: any plus sign makes it the mark of a continuation line, in front of a number too; any star without a number
+/// that is no known keyword makes it the marker of one, so a `PLOAD4*` below is stepped over; and THRU ends the card.
 enum class NodeField { Value, Blank, ContinuationMark, StarMarker, Thru, CardEnd };
 
 NodeField ClassifyNodeField(const char* cursor, std::int32_t width) {

@@ -87,7 +87,7 @@ void AddRows(const MeshElement* face, const CornerValues& values, std::int32_t f
   }
 }
 
-/// The first card whose element the model lacks ends the set.
+/// Required: the first card whose element the model lacks ends the set.
 std::size_t CountCards(const PressureSetRecord& set) {
   std::size_t count = 0;
   for (const PressureCard* card = set.first; card != nullptr && card->element != nullptr; card = card->next) {
@@ -178,7 +178,7 @@ std::int32_t PositionOf(const MeshElement* face, std::int32_t nodeId) {
 }
 
 /// Rows of a set on faces of solids. Required: faces and cards are walked side by side, so a card whose face was dropped shifts the nodes and values
-/// of the later ones.
+/// of the later ones. Required: unlike shells, a face with one row at its centre leaves no corner to its neighbours either, and mid-side nodes count.
 void AddSolidRows(const PressureSetRecord& set, PooledList* faces, Rows* rows) {
   WalkList<MeshElement>(faces, [](const MeshElement* face) { MarkNodes(face, CornersOf(face), 0); });
   const PressureCard* card = set.first;
@@ -188,9 +188,7 @@ void AddSolidRows(const PressureSetRecord& set, PooledList* faces, Rows* rows) {
     }
     if (card->firstNode != nullptr) {
       AddRows(face, card->values, PositionOf(face, card->firstNode->id), rows);
-      if (!AreEqual(card->values)) {
-        MarkNodes(face, TopologyOf(ElementNodeCount, face->typeIndex), markedNode);
-      }
+      MarkNodes(face, TopologyOf(ElementNodeCount, face->typeIndex), markedNode);
     }
     card = card->next;
   });

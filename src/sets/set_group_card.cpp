@@ -21,6 +21,7 @@ class GroupMembers {
  public:
   GroupMembers(MeshModel* model, bool isNodeSet) : model_(model), isNodeSet_(isNodeSet) {}
 
+  /// The next number is the end of a range. Required: without one in front of it, it is an id of its own, and the number behind it is lost.
   void NoteRange() { isRange_ = true; }
 
   void Take(std::int32_t value) {

@@ -46,7 +46,7 @@ class NumberList {
   MeshModel* model_;
 };
 
-/// Makes a set of the list form and files it.
+/// Makes a set of the list form and files it. Required: a second name is not checked again, so two sets may be called "Set1_1".
 void CreateEntitySet(BoundaryStore* boundary, PooledList* members, SetKind kind, const char* name, std::int32_t setId) {
   wchar_t unique[260];
   Widen(unique, 256, name);
@@ -105,7 +105,8 @@ bool TakeToken(const char* token, NumberList* numbers) {
   return true;
 }
 
-/// Takes the tokens of the list. The one that ends it is given back: the card behind the list begins there.
+/// Takes the tokens of the list. The one that ends it is given back: the card behind the list begins there. Required: a number that neither a comma nor
+/// a line end follows is not taken.
 void TakeTokens(DeckBuffer* file, NumberList* numbers) {
   char token[deckLineCapacity];
   while (true) {

@@ -103,7 +103,7 @@ bool TakeLine(MeshModel* model, const SurfaceLine& line, SurfaceLists* lists) {
   return true;
 }
 
-/// Takes the lines of the card; the line that belongs to the next card is given back.
+/// Takes the lines of the card; the line that belongs to the next card is given back. Required: a last line without a line end is not taken.
 void TakeLines(DeckBuffer* file, MeshModel* model, std::int32_t width, SurfaceLists* lists) {
   char line[512];
   while (true) {

@@ -205,16 +205,19 @@ class PlainPressures {
     for (std::size_t i = 0; i < loaded->size(); ++i) {
       const MeshElement* face = (*loaded)[i];
       const PlainPressureCard& card = set.cards[i];
-      if (card.first != nullptr && AllEqual(card.values)) {
+      if (card.first == nullptr) {
+        continue;
+      }
+      if (AllEqual(card.values)) {
         AddCentre(face, card.values[0]);
-      } else if (card.first != nullptr) {
+      } else {
         std::int32_t position = 0;
         while (position < Corners(face) && face->nodes[position]->id != card.first->id) {
           ++position;
         }
         AddCorners(face, position, card.values);
-        Mark(face, Nodes(face), 1);
       }
+      Mark(face, Nodes(face), 1);
     }
   }
 
