@@ -86,13 +86,13 @@ class MemoryBoundaryStore final : public BoundaryStore {
   }
 
   template <typename Interface, typename Class>
-  std::int32_t MakeWithCode(const char* operation, Interface** out, std::deque<Class>& made) {
+  std::int32_t MakeWithCode(Operation operation, Interface** out, std::deque<Class>& made) {
     Call call(object, operation);
     return Make(call, out, made) == nullptr ? call.Failed(1) : call.Code(0);
   }
 
   template <typename Interface, typename Class>
-  void MakeWithoutCode(const char* operation, Interface** out, std::deque<Class>& made) {
+  void MakeWithoutCode(Operation operation, Interface** out, std::deque<Class>& made) {
     Call call(object, operation);
     Make(call, out, made);
   }

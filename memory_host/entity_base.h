@@ -93,7 +93,7 @@ class EntityBase : public Interface {
 
   /// Announces a setter and writes its arguments to the trace.
   template <typename... Value>
-  void Told(const char* operation, const Value&... values) {
+  void Told(Operation operation, const Value&... values) {
     Call call(object, operation);
     call.Arguments(values...);
   }
@@ -103,10 +103,10 @@ class EntityBase : public Interface {
     info.object.context.names.Rename(&info, CopyOf(name));
   }
 
-  void TakeParts(const char* operation, PooledList* list) {
+  void TakeParts(Operation operation, PooledList* list) {
     Told(operation, Objects{list});
     info.parts.Clear();
-    for (MeshPart* part : ReadParts(object, operation, list)) {
+    for (MeshPart* part : ReadParts(object, operation.name, list)) {
       info.parts.Append(part);
     }
   }
@@ -114,7 +114,7 @@ class EntityBase : public Interface {
   HostObject& object;  ///< Who is called, for the operations of the derived classes.
 
  private:
-  void GiveParts(const char* operation, PooledList** out, PartList asked) {
+  void GiveParts(Operation operation, PooledList** out, PartList asked) {
     Call call(object, operation);
     if (!call.HasRoom(out)) {
       return;

@@ -93,6 +93,7 @@ void OwnedList::Append(void* value) {
   list_.cursor = tail_;
   ListAppend(&list_, value);
   tail_ = list_.cursor;
+  ++new_;
 }
 
 void AppendLast(PooledList* list, void* value) {
@@ -107,6 +108,7 @@ void AppendLast(PooledList* list, void* value) {
 void OwnedList::Clear() {
   ListClear(&list_);
   tail_ = nullptr;
+  new_ = 0;
 }
 
 bool OwnedList::Holds(const void* value) const {
@@ -120,15 +122,14 @@ bool OwnedList::Holds(const void* value) const {
 
 void Call::Announce() {
   HostContext& context = object_.context;
-  const char* type = TypeName(object_.type);
   if (context.hook) {
-    context.hook(type, operation_);
+    context.hook(TypeName(object_.type), operation_.name);
   }
-  if (context.handedOver && !IsAllowedAfterHandOver(object_.type, operation_)) {
+  if (context.handedOver && !IsAllowedAfterHandOver(object_.type, operation_.name)) {
     Fault("the model was handed over already");
   }
   if (context.refusals.IsActive()) {
-    refusal_ = context.refusals.Ask(type, operation_);
+    refusal_ = context.refusals.Ask(TypeName(object_.type), operation_.name);
   }
   if (context.trace == nullptr) {
     return;
@@ -136,11 +137,11 @@ void Call::Announce() {
   // The owner of an element is reached through the element's record. It counts as handed out with the first call on it, be that a line or
   // not: an object has the same number however much of the calls is written.
   object_.HandOut();
-  traced_ = context.trace->Wants(type, operation_);
+  traced_ = context.trace->Wants(object_.type, operation_);
   if (traced_) {
     text_ = object_.Name();
     text_ += '.';
-    text_ += operation_;
+    text_ += operation_.name;
     text_ += '(';
   }
 }
@@ -168,11 +169,11 @@ void Call::GiveObjects(PooledList** out, OwnedList& list) {
   }
   *out = list.Get();
   if (object_.context.trace != nullptr) {
-    for (void* value : list.As<void>()) {
+    list.VisitNew([this](const void* value) {
       if (HostObject* object = object_.context.Find(value)) {
         object->HandOut();
       }
-    }
+    });
   }
   Gave(Objects{list.Get()});
 }

@@ -117,6 +117,18 @@ class OwnedList {
   /// The first value, or null.
   void* First() const { return list_.next == &list_ ? nullptr : list_.next->value; }
 
+  /// Calls `visit` with each value that was appended since the last such walk. What the translator puts in or takes out is none of them.
+  template <typename Visit>
+  void VisitNew(Visit visit) {
+    std::int32_t known = list_.size - new_;
+    new_ = 0;
+    for (const ListCell* cell = list_.next; cell != &list_ && cell->value != nullptr; cell = cell->next) {
+      if (--known < 0) {
+        visit(cell->value);
+      }
+    }
+  }
+
   /// The values as pointers of one type, up to the first null; the cursor is left alone.
   template <typename Value>
   std::vector<Value*> As() const {
@@ -130,6 +142,7 @@ class OwnedList {
  private:
   PooledList list_;
   ListCell* tail_ = nullptr;  ///< Last cell appended; the tail unless the list was edited since.
+  std::int32_t new_ = 0;      ///< Values appended since VisitNew.
 };
 
 /// Appends to a list that the caller passed in to be filled: behind its last value, wherever the cursor stands.
@@ -138,7 +151,7 @@ void AppendLast(PooledList* list, void* value);
 /// One call of an operation, from its announcement to its line in the trace.
 class Call {
  public:
-  Call(HostObject& object, const char* operation) : object_(object), operation_(operation) {
+  Call(HostObject& object, Operation operation) : object_(object), operation_(operation) {
     if (object.context.IsWatched()) {
       Announce();
     }
@@ -239,7 +252,7 @@ class Call {
   std::int32_t Failed(std::int32_t code) { return Code(refusal_ == Refusal::EmptySuccess ? 0 : code); }
 
   /// Stops a strict host; a lax one goes on.
-  void Fault(std::string_view what) { object_.context.Fault(object_, operation_, what); }
+  void Fault(std::string_view what) { object_.context.Fault(object_, operation_.name, what); }
 
  private:
   template <typename Value>
@@ -257,7 +270,7 @@ class Call {
   void WriteLine();
 
   HostObject& object_;
-  const char* operation_;
+  Operation operation_;
   Refusal refusal_ = Refusal::None;
   bool traced_ = false;
   bool firstArgument_ = true;

@@ -44,16 +44,6 @@ void AppendHex(std::string& text, std::uint32_t value, int leastDigits) {
   text += buffer.data();
 }
 
-bool IsQuestion(std::string_view operation) {
-  constexpr std::array<std::string_view, 9> heads = {"Get", "Is", "Has", "Next", "Find", "Count", "Check", "Collect", "Compute"};
-  for (const std::string_view head : heads) {
-    if (operation.substr(0, head.size()) == head) {
-      return true;
-    }
-  }
-  return false;
-}
-
 const char* KindName(std::int32_t kind) {
   switch (kind) {
     case ValueInteger:
@@ -79,12 +69,13 @@ const char* KindName(std::int32_t kind) {
 
 }  // namespace
 
-bool TraceSink::Wants(std::string_view type, std::string_view operation) const {
-  if (coverage_ == Coverage::All || !IsQuestion(operation)) {
+bool TraceSink::Wants(ObjectType type, const Operation& operation) const {
+  if (coverage_ == Coverage::All || !operation.isQuestion) {
     return true;
   }
   // Two questions by name that make what they give: the run's model, and a new set of parameters.
-  return (type == "HostProject" && operation == "GetMeshModel") || (type == "LoadCase" && operation == "GetParameters");
+  const std::string_view name = operation.name;
+  return (type == ObjectType::HostProject && name == "GetMeshModel") || (type == ObjectType::LoadCase && name == "GetParameters");
 }
 
 void TraceSink::WriteLine(std::string_view line) {

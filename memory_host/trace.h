@@ -9,6 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include "memory_host/object_types.h"
+#include "memory_host/operation.h"
+
 namespace btz::memory {
 
 class HostContext;
@@ -25,7 +28,7 @@ class TraceSink {
   explicit TraceSink(std::FILE* file, Coverage coverage = Coverage::Changes) : file_(file), coverage_(coverage) {}
 
   /// True when calls of this operation are lines of the trace.
-  bool Wants(std::string_view type, std::string_view operation) const;
+  bool Wants(ObjectType type, const Operation& operation) const;
 
   /// Writes one line; the line end is added.
   void WriteLine(std::string_view line);

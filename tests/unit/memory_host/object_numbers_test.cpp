@@ -1,5 +1,6 @@
 // Numbers of objects in a trace do not depend on how many of the calls it shows.
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 #include "memory_host/host_fixture.h"
@@ -66,6 +67,55 @@ TEST(ObjectNumbers, AreTheSameWhetherQuestionsAreLinesOrNot) {
            line.find(".NextPartId(") != std::string::npos;
   });
   EXPECT_EQ(changes, all);
+}
+
+/// A face of shells and the skin of a solid, both in the list of their body, of which the second is called first.
+TEST(ObjectNumbers, ThoseOfAListCountInItsOrderWhenItIsGiven) {
+  std::string text;
+  TraceSink sink(&text, TraceSink::Coverage::Changes);
+  MemoryHost host;
+  host.SetTrace(&sink);
+  MeshModel* model = nullptr;
+  host.GetProject()->GetMeshModel(&model, 1);
+  const double corners[4][3] = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}};
+  const std::int32_t ids[4] = {1, 2, 3, 4};
+  for (std::size_t i = 0; i < 4; ++i) {
+    model->CreateNode(ids[i], corners[i], 0);
+  }
+  MeshPart* body = nullptr;
+  model->CreateBody(1, &body, 7, 0, 1, 1);
+  PooledList* faces = nullptr;
+  body->GetFaces(&faces);
+  ASSERT_EQ(faces->size, 0);
+  const std::int32_t middle[3] = {1, 2, 4};
+  model->CreateElement(1, 3, middle, 7, 0, 0, 1, 0);
+  model->CreateElement(2, 7, ids, 7, 0, 1, 0, 0);
+  model->FinishSolidPart(body, 0, 0, 0);
+  body->GetFaces(&faces);
+  ASSERT_EQ(faces->size, 2);
+  // A list that was changed from outside in between: what was in it keeps its number, and what the host adds has the next.
+  ListRewind(faces);
+  auto* first = static_cast<TopoFace*>(ListNext(faces));
+  auto* second = static_cast<TopoFace*>(ListNext(faces));
+  ListRewind(faces);
+  ListAppend(faces, first);
+  second->Finish();
+  MeshElement* shell = nullptr;
+  model->GetElement(1, &shell);
+  TopoEntity* made = nullptr;
+  model->CreateTopoEntity(topoFace, &made, 7, body, 1);
+  auto* third = static_cast<TopoFace*>(made);
+  body->AddFace(third, 1);
+  body->GetFaces(&faces);
+  ASSERT_EQ(faces->size, 4);
+  shell->owner->Finish();
+  third->Finish();
+
+  const std::vector<std::string> lines = LinesOf(text);
+  std::vector<std::string> finished;
+  std::copy_if(lines.begin(), lines.end(), std::back_inserter(finished),
+               [](const std::string& line) { return line.find(".Finish()") != std::string::npos; });
+  EXPECT_EQ(finished, (std::vector<std::string>{"TopoFace#2.Finish()", "TopoFace#1.Finish()", "TopoFace#3.Finish()"}));
 }
 
 }  // namespace
