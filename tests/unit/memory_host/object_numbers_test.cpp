@@ -8,19 +8,26 @@
 namespace btz::memory {
 namespace {
 
+constexpr std::int32_t ids[4] = {1, 2, 3, 4};  ///< Corners of a tetrahedron.
+
+/// The model of the host, with the corners.
+MeshModel* ModelWithCorners(MemoryHost& host) {
+  MeshModel* model = nullptr;
+  host.GetProject()->GetMeshModel(&model, 1);
+  const double corners[4][3] = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}};
+  for (std::size_t i = 0; i < 4; ++i) {
+    model->CreateNode(ids[i], corners[i], 0);
+  }
+  return model;
+}
+
 /// A tetrahedron in body 7 whose volume and skin are reached through records only, then a new face beside the skin.
 std::string TraceOfALoadedSolid(TraceSink::Coverage coverage) {
   std::string text;
   TraceSink sink(&text, coverage);
   MemoryHost host;
   host.SetTrace(&sink);
-  MeshModel* model = nullptr;
-  host.GetProject()->GetMeshModel(&model, 1);
-  const double corners[4][3] = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}};
-  const std::int32_t ids[4] = {1, 2, 3, 4};
-  for (std::size_t i = 0; i < 4; ++i) {
-    model->CreateNode(ids[i], corners[i], 0);
-  }
+  MeshModel* model = ModelWithCorners(host);
   MeshPart* body = nullptr;
   model->CreateBody(1, &body, 7, 0, 1, 1);
   model->ReservePartId(7);
@@ -75,13 +82,7 @@ TEST(ObjectNumbers, ThoseOfAListCountInItsOrderWhenItIsGiven) {
   TraceSink sink(&text, TraceSink::Coverage::Changes);
   MemoryHost host;
   host.SetTrace(&sink);
-  MeshModel* model = nullptr;
-  host.GetProject()->GetMeshModel(&model, 1);
-  const double corners[4][3] = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}};
-  const std::int32_t ids[4] = {1, 2, 3, 4};
-  for (std::size_t i = 0; i < 4; ++i) {
-    model->CreateNode(ids[i], corners[i], 0);
-  }
+  MeshModel* model = ModelWithCorners(host);
   MeshPart* body = nullptr;
   model->CreateBody(1, &body, 7, 0, 1, 1);
   PooledList* faces = nullptr;
